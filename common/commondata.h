@@ -1,0 +1,28 @@
+// Process-wide state shared by the main page and the nodes: the photo position, the
+// preview-mode flag and the photo list model. Created on first use, never destroyed.
+#pragma once
+
+#include <QString>
+
+class ItemsModel;
+
+class CommonData
+{
+public:
+    static CommonData* instance();
+
+    int photoCount = 0;
+    int currentIndex = 0;
+    // 1 while the live preview runs on a reduced copy; 0 while the large view wants full size.
+    int previewMode = 1;
+    QString displayName;
+
+    ItemsModel* itemsModel();
+
+    // The photo's file name without its last extension ("a.b.jpg" gives "a.b").
+    static QString displayNameOf(const QString& fileName);
+
+private:
+    CommonData() = default;
+    ItemsModel* model = nullptr;
+};

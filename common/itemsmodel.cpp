@@ -1,0 +1,92 @@
+#include "itemsmodel.h"
+
+#include "commondata.h"
+
+#include <QImageReader>
+#include <QPainter>
+
+namespace {
+constexpr int thumbnailSide = 48;
+}
+
+ItemsModel::ItemsModel(QObject* parent)
+    : QAbstractListModel(parent)
+{
+}
+
+void ItemsModel::setPhotos(const QList<QUrl>& newUrls)
+{
+    beginResetModel();
+    urls = newUrls;
+    cache.clear();
+    endResetModel();
+}
+
+int ItemsModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : urls.size();
+}
+
+QVariant ItemsModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() < 0 || index.column() < 0 || index.row() >= urls.size())
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return CommonData::displayNameOf(urls.at(index.row()).toLocalFile());
+    case Qt::SizeHintRole:
+        return QSize(thumbnailSide, thumbnailSide);
+    case Qt::DecorationRole: {
+        auto cached = cache.constFind(index.row());
+        if (cached != cache.constEnd())
+            return *cached;
+        const QImage thumbnail = thumbnailOf(urls.at(index.row()).toLocalFile());
+        cache.insert(index.row(), thumbnail);
+        return thumbnail;
+    }
+    default:
+        return {};
+    }
+}
+
+bool ItemsModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    Q_UNUSED(role)
+    if (!index.isValid() || index.row() >= urls.size() || !value.canConvert<QUrl>())
+        return false;
+    urls[index.row()] = value.toUrl();
+    cache.remove(index.row());
+    emit dataChanged(index, index);
+    return true;
+}
+
+QImage ItemsModel::thumbnailOf(const QString& path)
+{
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.isValid())
+        reader.setScaledSize(QSize(qRound(size.width() / 20.0), qRound(size.height() / 20.0)));
+    return fitIntoThumbnail(reader.read());
+}
+
+QImage ItemsModel::fitIntoThumbnail(const QImage& image)
+{
+    if (image.isNull())
+        return image;
+    const QImage scaled = image.scaled(thumbnailSide, thumbnailSide, Qt::KeepAspectRatio,
+                                       Qt::SmoothTransformation);
+    // An opaque format could not hold the transparent border.
+    const QImage::Format format =
+        scaled.hasAlphaChannel() ? scaled.format() : QImage::Format_ARGB32_Premultiplied;
+    QImage result(thumbnailSide, thumbnailSide, format);
+    result.fill(QColor(100, 100, 100, 0));
+    QPainter painter(&result);
+    if (scaled.width() >= thumbnailSide) {
+        const int y = scaled.height() < thumbnailSide ? (thumbnailSide - scaled.height()) / 2 : 0;
+        painter.drawImage(0, y, scaled);
+    } else {
+        painter.drawImage((thumbnailSide - scaled.width()) / 2, 0, scaled);
+    }
+    return result;
+}

@@ -1,0 +1,29 @@
+// Kernels that change the size or arrangement of the pixels. The result keeps the source format.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QSize>
+
+namespace OrkGraphX {
+
+// 90 or -270, 180 or -180, 270 or -90; any other angle returns the image unchanged.
+QImage rotateImage(QImage& image, int angle);
+QImage rotateRight90(QImage& image);
+QImage rotate180(QImage& image);
+QImage rotateLeft90(QImage& image);
+
+QImage mirrorImage(QImage& image, bool horizontal, bool vertical);
+
+// Margins in percent of the image size.
+QImage cropImage(QImage& image, int left, int right, int top, int bottom);
+
+// A border of percent of the width on all four sides.
+QImage drawFrame(QImage& image, int percent, QColor colour);
+
+// mode 0 percent, 1 maximum pixels, 2 pixels; previewMode caps the interactive preview.
+QImage resizeImage(QImage& image, int width, int height, int mode, bool previewMode);
+
+QImage fitIntoBox(QImage& image, QSize box, QColor background);
+
+} // namespace OrkGraphX

@@ -1,0 +1,202 @@
+#include "app.h"
+
+#include "helpwindow.h"
+#include "translationsmanager.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTextStream>
+#include <QtDebug>
+
+#include <cstdlib>
+
+namespace OrkWidgets {
+
+namespace {
+const char* const keyHelpShown = "KeyHelpShown";
+const char* const keyUsage = "KeyUsage";
+} // namespace
+
+App::App(int& argc, char** argv, const QString& organization, const QString& application)
+    : QApplication(argc, argv)
+{
+    setOrganizationName(organization);
+    setApplicationName(application);
+    firstStart = true;
+    const QStringList folders = userFolders();
+    for (const QString& folder : folders) {
+        if (QDir(folder).exists()) {
+            firstStart = false;
+            break;
+        }
+    }
+    qInstallMessageHandler(&App::messageHandler);
+    translationsManager = new TranslationsManager(this);
+}
+
+App::~App()
+{
+    qInstallMessageHandler(nullptr);
+}
+
+App* App::instance()
+{
+    return qobject_cast<App*>(QCoreApplication::instance());
+}
+
+QString App::language() const
+{
+    return translationsManager->language();
+}
+
+void App::setMainWidget(QWidget* widget)
+{
+    mainWindow = widget;
+    blender = new QLabel(widget);
+    blender->setObjectName("MainWidgetBlender");
+    blender->hide();
+}
+
+bool App::isHelpDue() const
+{
+    return !helpSlides.isEmpty() && !readSetting(keyHelpShown, false).toBool();
+}
+
+void App::addUsage(int points)
+{
+    writeSetting(keyUsage, readSetting(keyUsage, 0).toInt() + points);
+}
+
+void App::slotHelp()
+{
+    if (helpSlides.isEmpty())
+        return;
+    writeSetting(keyHelpShown, true);
+    auto* window = new HelpWindow(helpSlides, mainWindow);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
+}
+
+bool App::copyFile(const QString& source, const QString& folder, const QString& name)
+{
+    QDir().mkpath(folder);
+    const QString target = folder + "/" + (name.isEmpty() ? QFileInfo(source).fileName() : name);
+    if (QFile::exists(target))
+        return true;
+    QFile in(source);
+    QFile out(target);
+    if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
+        return false;
+    out.write(in.readAll());
+    return true;
+}
+
+QString App::dataFolder()
+{
+    const QString folder = QDir::homePath() + "/" + QCoreApplication::applicationName() + "/";
+    QDir().mkpath(folder);
+    return folder;
+}
+
+QStringList App::userFolders()
+{
+    const QString data = QDir::homePath() + "/" + QCoreApplication::applicationName() + "/";
+    return {data,
+            data + "Flows/",
+            data + "Logos/",
+            data + "Notes/",
+            data + "Screenshots/",
+            data + "Styles/",
+            data + "Downloads/",
+            data + "Cache/",
+            data + "Help/"};
+}
+
+QString App::outputBaseFolder()
+{
+    const QStringList pictures = QStandardPaths::standardLocations(QStandardPaths::PicturesLocation);
+    const QString base = pictures.isEmpty() ? QDir::homePath() : pictures.first();
+    return base + "/" + QCoreApplication::organizationName() + "/"
+           + QCoreApplication::applicationName() + "/";
+}
+
+QVariant App::readSetting(const QString& key, const QVariant& defaultValue)
+{
+    QSettings settings(QCoreApplication::organizationName(), QCoreApplication::applicationName());
+    return settings.value(key, defaultValue);
+}
+
+void App::writeSetting(const QString& key, const QVariant& value)
+{
+    QSettings settings(QCoreApplication::organizationName(), QCoreApplication::applicationName());
+    settings.setValue(key, value);
+}
+
+double App::devicePixelRatio()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->devicePixelRatio() : 1.0;
+}
+
+QDate App::buildDate()
+{
+    return dateFromBuildString(QStringLiteral(__DATE__));
+}
+
+QDate App::dateFromBuildString(const QString& buildString)
+{
+    static const char* const months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                         "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    QString text = buildString.simplified().replace(' ', '/');
+    for (int i = 0; i < 12; ++i)
+        text.replace(QLatin1String(months[i]), QString::number(i + 1));
+    qDebug() << "&&&BUILD:" << text;
+    const QDate date = QDate::fromString(text, "M/d/yyyy");
+    qDebug() << "&&&DATE:" << date;
+    return date;
+}
+
+QString App::logLine(QtMsgType type, const QMessageLogContext& context, const QString& message,
+                     const QDateTime& when)
+{
+    const char* level = " Debug: ";
+    switch (type) {
+    case QtDebugMsg:
+        level = " Debug: ";
+        break;
+    case QtInfoMsg:
+        level = " Info: ";
+        break;
+    case QtWarningMsg:
+        level = " Warning: ";
+        break;
+    case QtCriticalMsg:
+        level = " Critical: ";
+        break;
+    case QtFatalMsg:
+        level = " Fatal: ";
+        break;
+    }
+    return when.toString("dd.MM.yy-hh:mm") + QLatin1String(level) + message + ", "
+           + QString::fromUtf8(context.file);
+}
+
+void App::messageHandler(QtMsgType type, const QMessageLogContext& context,
+                         const QString& message)
+{
+    QFile file(dataFolder() + "protocol.log");
+    if (file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text)) {
+        QTextStream stream(&file);
+        stream << logLine(type, context, message, QDateTime::currentDateTime()) << '\n';
+    }
+    file.close();
+    if (type == QtFatalMsg)
+        std::abort();
+}
+
+} // namespace OrkWidgets

@@ -1,0 +1,86 @@
+// The application object: data folder, log, settings, translations and the main-widget hand-over.
+#pragma once
+
+#include <QApplication>
+#include <QDate>
+#include <QStringList>
+#include <QVariant>
+
+class QLabel;
+
+namespace OrkWidgets {
+
+class TranslationsManager;
+
+class App : public QApplication
+{
+    Q_OBJECT
+
+public:
+    App(int& argc, char** argv, const QString& organization, const QString& application);
+    ~App() override;
+
+    static App* instance();
+
+    void setHomePage(const QString& address) { homePage = address; }
+    QString homePageAddress() const { return homePage; }
+
+    // Fixed at construction: true when none of the per-user folders existed yet.
+    bool isFirstStart() const { return firstStart; }
+
+    QString language() const;
+    TranslationsManager* translations() const { return translationsManager; }
+
+    // Keeps the main widget and creates the hidden "MainWidgetBlender" overlay as its child.
+    void setMainWidget(QWidget* widget);
+    QWidget* mainWidget() const { return mainWindow; }
+
+    // The help display: slide pictures shown in order, offered once after the first photos.
+    void setHelpSlides(const QStringList& slides) { helpSlides = slides; }
+    QStringList helpSlideList() const { return helpSlides; }
+    bool isHelpDue() const;
+    void addUsage(int points);
+
+    // Copies source to folder + "/" + name (the source's file name when name is empty),
+    // creating the folder. An existing target is left untouched and counts as success.
+    static bool copyFile(const QString& source, const QString& folder, const QString& name = {});
+
+    // Home + "/" + application name + "/", created when missing.
+    static QString dataFolder();
+    // The folders whose absence marks a first start; the data folder comes first.
+    static QStringList userFolders();
+    // First pictures location + "/" + organization + "/" + application + "/".
+    static QString outputBaseFolder();
+
+    static QVariant readSetting(const QString& key, const QVariant& defaultValue = {});
+    static void writeSetting(const QString& key, const QVariant& value);
+
+    static double devicePixelRatio();
+
+    static QDate buildDate();
+    // Parses the compiler's date form ("Oct  4 2014"); an unknown month gives an invalid date.
+    static QDate dateFromBuildString(const QString& buildString);
+
+    // One line of "protocol.log", without the line end.
+    static QString logLine(QtMsgType type, const QMessageLogContext& context,
+                           const QString& message, const QDateTime& when);
+
+signals:
+    void dockClicked();
+
+public slots:
+    void slotHelp();
+
+private:
+    static void messageHandler(QtMsgType type, const QMessageLogContext& context,
+                               const QString& message);
+
+    QString homePage;
+    bool firstStart = false;
+    TranslationsManager* translationsManager = nullptr;
+    QWidget* mainWindow = nullptr;
+    QLabel* blender = nullptr;
+    QStringList helpSlides;
+};
+
+} // namespace OrkWidgets

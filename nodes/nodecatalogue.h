@@ -1,0 +1,23 @@
+// The catalogue of operations by display name: icons, the node factory and the headless forms.
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QString>
+#include <QStringList>
+
+class BaseNode;
+class QWidget;
+
+// ":/Icon_XXX.png" for the first catalogue word the name contains; a null pixmap for none.
+QPixmap iconForNodeName(const QString& name);
+
+// The fourteen names the factory creates, in the factory's order.
+QStringList factoryNodeNames();
+
+// A new node for the exact display name, or nullptr for a name the factory does not know.
+BaseNode* createNodeByName(const QString& name, QWidget* parent = nullptr);
+
+// The named operation applied by its headless form to image with the stored parameter text,
+// with no widget involved; an unknown name returns the image unchanged. Safe on any thread.
+QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText);

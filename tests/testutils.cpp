@@ -1,0 +1,69 @@
+#include "testutils.h"
+
+#include <QDir>
+
+namespace TestUtils {
+
+namespace {
+QTemporaryDir* sandbox = nullptr;
+}
+
+QString makeSandboxHome()
+{
+    if (!sandbox) {
+        sandbox = new QTemporaryDir(QDir::tempPath() + "/pelodine-test-XXXXXX");
+        const QString home = sandbox->path();
+        const char* subFolders[] = {".config", ".local/share", ".cache", "Pictures", "runtime"};
+        for (const char* folder : subFolders)
+            QDir(home).mkpath(folder);
+        QFile::setPermissions(home + "/runtime", QFileDevice::ReadOwner | QFileDevice::WriteOwner
+                                                     | QFileDevice::ExeOwner);
+        qputenv("HOME", home.toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", (home + "/.config").toLocal8Bit());
+        qputenv("XDG_DATA_HOME", (home + "/.local/share").toLocal8Bit());
+        qputenv("XDG_CACHE_HOME", (home + "/.cache").toLocal8Bit());
+        qputenv("XDG_RUNTIME_DIR", (home + "/runtime").toLocal8Bit());
+        qputenv("XDG_PICTURES_DIR", (home + "/Pictures").toLocal8Bit());
+    }
+    return sandbox->path();
+}
+
+QString sandboxHome()
+{
+    return sandbox ? sandbox->path() : QString();
+}
+
+QString imageDifference(const QImage& actual, const QImage& expected)
+{
+    if (actual.size() != expected.size())
+        return QString("size %1x%2 != %3x%4")
+            .arg(actual.width())
+            .arg(actual.height())
+            .arg(expected.width())
+            .arg(expected.height());
+    const QImage a = actual.depth() == 32 ? actual : actual.convertToFormat(QImage::Format_ARGB32);
+    const QImage e =
+        expected.depth() == 32 ? expected : expected.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < a.height(); ++y) {
+        const auto* rowA = reinterpret_cast<const QRgb*>(a.constScanLine(y));
+        const auto* rowE = reinterpret_cast<const QRgb*>(e.constScanLine(y));
+        for (int x = 0; x < a.width(); ++x) {
+            if (rowA[x] != rowE[x])
+                return QString("pixel (%1,%2): #%3 != #%4")
+                    .arg(x)
+                    .arg(y)
+                    .arg(rowA[x], 8, 16, QLatin1Char('0'))
+                    .arg(rowE[x], 8, 16, QLatin1Char('0'));
+        }
+    }
+    return QString();
+}
+
+QImage filledImage(int width, int height, QRgb argb)
+{
+    QImage image(width, height, QImage::Format_ARGB32);
+    image.fill(argb);
+    return image;
+}
+
+} // namespace TestUtils

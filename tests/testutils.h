@@ -1,0 +1,47 @@
+// Shared helpers for the Qt Test executables: a sandboxed home per process and image comparison.
+#pragma once
+
+#include <QApplication>
+#include <QImage>
+#include <QString>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace TestUtils {
+
+// Points HOME and the XDG folders at a fresh temporary directory, so that no test
+// touches the real user's home, settings or pictures. Call before the application object exists.
+QString makeSandboxHome();
+
+// The sandbox home of this process (valid after makeSandboxHome).
+QString sandboxHome();
+
+// Empty when both images have the same size and the same 32-bit words, otherwise a
+// description of the first difference ("size 10x10 != 12x10", "pixel (3,4): #ff102030 != ...").
+QString imageDifference(const QImage& actual, const QImage& expected);
+
+// An ARGB32 image of the given size filled with one colour word.
+QImage filledImage(int width, int height, QRgb argb);
+
+} // namespace TestUtils
+
+#define QCOMPARE_IMAGES(actual, expected)                                                          \
+    do {                                                                                           \
+        const QString diff_ = TestUtils::imageDifference((actual), (expected));                    \
+        if (!diff_.isEmpty())                                                                      \
+            QFAIL(qPrintable(diff_));                                                              \
+    } while (false)
+
+// QTEST_MAIN with a sandboxed home and the offscreen platform.
+#define PELODINE_TEST_MAIN(TestObject)                                                             \
+    int main(int argc, char* argv[])                                                               \
+    {                                                                                              \
+        TestUtils::makeSandboxHome();                                                              \
+        qputenv("QT_QPA_PLATFORM", "offscreen");                                                   \
+        QApplication app(argc, argv);                                                              \
+        QApplication::setOrganizationName("Qubrast");                                              \
+        QApplication::setApplicationName("Pelodine");                                              \
+        TestObject tc;                                                                             \
+        QTEST_SET_MAIN_SOURCE_PATH                                                                 \
+        return QTest::qExec(&tc, argc, argv);                                                      \
+    }
