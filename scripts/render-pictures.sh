@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # Re-renders the committed pictures of resources/pictures from their SVG sources in
-# resources/svg (1x and @2x), and assembles the animated arrow with ImageMagick.
+# resources/svg (at the size each SVG declares, and @2x for high-density screens), makes the
+# greyed-out button pictures, assembles the animated arrow with ImageMagick and lists them all
+# in resources/pictures/pictures.qrc.
 #   scripts/render-pictures.sh [path/to/pelodine-svgrender] [--sheet contact-sheet.png]
 # The `pictures` target of the build runs it with the freshly built renderer.
 set -euo pipefail
@@ -19,41 +21,59 @@ out=$root/resources/pictures
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$work
+mkdir -p "$out/buttons"
 
-# render SOURCE OUTPUT WIDTH HEIGHT: OUTPUT.png and OUTPUT@2x.png from SOURCE.svg
+# render SOURCE.svg OUTPUT: OUTPUT.png and OUTPUT@2x.png
 render() {
-    "$renderer" "$svg/$1.svg" "$out/$2.png" "$3" "$4"
-    "$renderer" "$svg/$1.svg" "$out/$2@2x.png" $(($3 * 2)) $(($4 * 2))
+    "$renderer" "$1" "$2.png"
+    "$renderer" "$1" "$2@2x.png" 2
 }
 
-for code in BIN BLR BRT CRP FRM HST INV MRR RGB RSZ RTT WGN GRS WMR; do
-    render "Icon_$code" "Icon_$code" 64 64
+for name in Icon_BIN Icon_BLR Icon_BRT Icon_CRP Icon_FRM Icon_HST Icon_INV Icon_MRR Icon_RGB \
+    Icon_RSZ Icon_RTT Icon_WGN Icon_GRS Icon_WMR DisabledNode droparea openfiles new save \
+    delete GotoIcon menubar initlabel_en; do
+    render "$svg/$name.svg" "$out/$name"
 done
-render DisabledNode DisabledNode 70 70
-render droparea droparea 360 360
-render openfiles openfiles 24 24
-render new new 16 16
-render save save 16 16
-render delete delete 16 16
-render GotoIcon GotoIcon 16 16
-render menubar menubar 64 45
-render initlabel_en initlabel_en 735 175
 # The watermark logo is stretched over photos of any size: one large picture, no @2x.
-"$renderer" "$svg/qubrast.svg" "$out/qubrast.png" 960 300
+"$renderer" "$svg/qubrast.svg" "$out/qubrast.png"
+
+# Button pictures, each with a greyed-out twin for the disabled state: the light strokes
+# and the accent turn into dim greys.
+for source in "$svg"/buttons/*.svg; do
+    name=$(basename "$source" .svg)
+    render "$source" "$out/buttons/$name"
+    sed -e 's/#e6e6e6/#6a6a6a/g; s/#ffffff/#7a7a7a/g; s/#3daee9/#5a5a5a/g' \
+        "$source" >"$work/$name-disabled.svg"
+    render "$work/$name-disabled.svg" "$out/buttons/$name-disabled"
+done
 
 # The arrow bobs towards the "+" button below: the drawing's "bob" group is moved
 # along its direction, out and back, one frame per offset.
 frames=()
 for step in 0 1 2 3 4 5 6 5 4 3 2 1; do
-    sed "s/id=\"bob\" transform=\"translate(0 0)\"/id=\"bob\" transform=\"translate(-$step $step)\"/" \
-        "$svg/arrow.svg" >"$work/arrow-$step.svg"
-    [ -f "$work/arrow-$step.png" ] || "$renderer" "$work/arrow-$step.svg" "$work/arrow-$step.png" 100 100
+    if [ ! -f "$work/arrow-$step.png" ]; then
+        sed "s/id=\"bob\" transform=\"translate(0 0)\"/id=\"bob\" transform=\"translate(-$step $step)\"/" \
+            "$svg/arrow.svg" >"$work/arrow-$step.svg"
+        "$renderer" "$work/arrow-$step.svg" "$work/arrow-$step.png"
+    fi
     frames+=("$work/arrow-$step.png")
 done
-convert -delay 8 -loop 0 -dispose previous "${frames[@]}" "$out/arrow.gif"
+convert -delay 8 -loop 0 "${frames[@]}" "$out/arrow.gif"
+
+# The resource list names every rendered picture, compiled in under ":/".
+{
+    echo '<!DOCTYPE RCC>'
+    echo '<!-- Written by scripts/render-pictures.sh: the rendered pictures, under ":/". -->'
+    echo '<RCC version="1.0">'
+    echo '<qresource prefix="/">'
+    (cd "$out" && find . -name '*.png' -o -name '*.gif') | sed 's|^\./||' | LC_ALL=C sort |
+        sed 's|.*|    <file>&</file>|'
+    echo '</qresource>'
+    echo '</RCC>'
+} >"$out/pictures.qrc"
 
 if [ -n "$sheet" ]; then
-    mapfile -t pictures < <(find "$out" -name '*.png' ! -name '*@2x.png' | sort)
+    mapfile -t pictures < <(find "$out" -name '*@2x.png' | sort)
     montage -background '#474747' -fill '#e6e6e6' -label '%t' -pointsize 10 \
-        -geometry '+8+8' -tile 6x "${pictures[@]}" "$sheet"
+        -geometry '+8+8' -tile 8x "${pictures[@]}" "$sheet"
 fi

@@ -1,5 +1,5 @@
-// Renders one SVG picture of resources/svg into a PNG of a given pixel size, so that the
-// committed PNGs can always be made again from their sources (scripts/render-pictures.sh).
+// Renders one SVG picture of resources/svg into a PNG at its own size times a scale, so that
+// the committed PNGs can always be made again from their sources (scripts/render-pictures.sh).
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -15,12 +15,10 @@ int main(int argc, char* argv[])
     QTextStream err(stderr);
 
     const QStringList arguments = QGuiApplication::arguments();
-    bool widthOk = false;
-    bool heightOk = false;
-    const int width = arguments.value(3).toInt(&widthOk);
-    const int height = arguments.value(4).toInt(&heightOk);
-    if (arguments.size() != 5 || !widthOk || !heightOk || width < 1 || height < 1) {
-        err << "usage: pelodine-svgrender <input.svg> <output.png> <width> <height>\n";
+    bool scaleOk = arguments.size() < 4;
+    const int scale = scaleOk ? 1 : arguments.at(3).toInt(&scaleOk);
+    if (arguments.size() < 3 || arguments.size() > 4 || !scaleOk || scale < 1) {
+        err << "usage: pelodine-svgrender <input.svg> <output.png> [scale]\n";
         return 2;
     }
 
@@ -30,7 +28,9 @@ int main(int argc, char* argv[])
         return 1;
     }
 
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    // The picture's own width and height attributes give its size at scale 1.
+    const QSize size = renderer.defaultSize() * scale;
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
