@@ -1,0 +1,30 @@
+// Reading photos and turning dropped folders into the photos inside them.
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QSize>
+#include <QUrl>
+
+class QString;
+
+namespace PhotoFiles {
+
+// The photo upright as its EXIF orientation says, format detected from the contents.
+// An unreadable or non-image file gives a null image. With a divisor above 1 the file is
+// decoded at (width / divisor, height / divisor), each rounded, which is far cheaper.
+QImage read(const QString& path, int divisor = 1);
+
+// The photo upright and scaled smoothly to fit into box, keeping its aspect ratio. Large
+// photos are decoded at the reduced size, far cheaper than decoding them whole.
+QImage readFitted(const QString& path, const QSize& box);
+
+// The size a photo of fullSize is decoded at with the given divisor (each side at least 1).
+QSize reducedSize(const QSize& fullSize, int divisor);
+
+// Each folder among urls replaced, at its place, by the image files inside it and inside its
+// subfolders, in name order, a subfolder's photos at the subfolder's place; files are kept as
+// they are, whatever they hold, so that an unreadable photo still shows up in the list.
+QList<QUrl> expandFolders(const QList<QUrl>& urls);
+
+} // namespace PhotoFiles
