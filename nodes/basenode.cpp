@@ -1,0 +1,92 @@
+#include "basenode.h"
+
+#include "clickableimagelabel.h"
+#include "nodecatalogue.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+BaseNode::BaseNode(const QString& name, QWidget* parent)
+    : QFrame(parent)
+    , disabledPicture(":/DisabledNode.png")
+    , activeBox(new QGroupBox(name, this))
+    , iconLabel(new OrkWidgets::ClickableImageLabel(this))
+    , nodeName(name)
+    , optionsLayout(new QVBoxLayout)
+{
+    iconLabel->setFixedSize(64, 64);
+    iconLabel->setObjectName("NodeIconLabel");
+    // A group box made checkable starts checked: a new node is active.
+    activeBox->setCheckable(true);
+    connect(activeBox, &QGroupBox::clicked, this, &BaseNode::slotActiveStateChanged);
+    optionsLayout->setContentsMargins(1, 1, 1, 1);
+    optionsLayout->setSpacing(3);
+    activeBox->setLayout(optionsLayout);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(1);
+    layout->addStretch(1);
+    layout->addWidget(iconLabel);
+    layout->addWidget(activeBox);
+    layout->addStretch(1);
+}
+
+BaseNode::~BaseNode() = default;
+
+void BaseNode::loadParameters(const QDomElement& /*parameters*/) {}
+
+void BaseNode::saveParameters(QDomElement& /*parameters*/, QDomDocument /*document*/) {}
+
+void BaseNode::readParameters(const QDomElement& parameters)
+{
+    for (QDomNode child = parameters.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        const QDomElement element = child.toElement();
+        if (!element.isNull() && element.tagName() == QLatin1String("Active"))
+            activeBox->setChecked(element.text().toLower() == QLatin1String("yes"));
+    }
+    loadParameters(parameters);
+}
+
+QDomElement BaseNode::writeParameters(QDomDocument document)
+{
+    QDomElement parameters = document.createElement("Parameters");
+    QDomElement active = document.createElement("Active");
+    active.appendChild(document.createTextNode(isActive() ? "yes" : "no"));
+    parameters.appendChild(active);
+    saveParameters(parameters, document);
+    return parameters;
+}
+
+QString BaseNode::parametersText()
+{
+    QDomDocument document;
+    document.appendChild(writeParameters(document));
+    return document.toString(1);
+}
+
+void BaseNode::updatePreview(const QImage& image)
+{
+    emit previewChanged(isActive() ? image : disabledPicture);
+}
+
+void BaseNode::setNodeIcon(const QString& name)
+{
+    iconLabel->setPixmap(iconForNodeName(name));
+}
+
+bool BaseNode::isActive() const
+{
+    return activeBox->isChecked();
+}
+
+void BaseNode::setActive(bool active)
+{
+    activeBox->setChecked(active);
+}
+
+void BaseNode::slotActiveStateChanged()
+{
+    emit parametersChanged();
+}

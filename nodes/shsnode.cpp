@@ -1,0 +1,20 @@
+#include "shsnode.h"
+
+#include "blrnode.h"
+#include "neighbourhood.h"
+#include "nodecontrols.h"
+
+SHSNode::SHSNode(QWidget* parent)
+    : BaseNode(BLRNode::Name, parent)
+{
+    setNodeIcon(BLRNode::Name);
+    sharpness =
+        addSliderRow(this, addFramedForm(optionsLayout), tr("Sharpness:"), BLRNode::radiusRange);
+}
+
+void SHSNode::process(QImage& image)
+{
+    if (isActive())
+        image = OrkGraphX::sharpenImage(image);
+    updatePreview(image);
+}

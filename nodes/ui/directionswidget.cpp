@@ -1,0 +1,54 @@
+#include "directionswidget.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+DirectionsWidget::DirectionsWidget(QWidget* parent)
+    : QFrame(parent)
+    , box(new QGroupBox(this))
+{
+    box->setFixedSize(58, 58);
+    auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(1, 1, 1, 1);
+    grid->setSpacing(0);
+    for (int cell = TopLeft; cell <= BottomRight; ++cell) {
+        auto* button = new QPushButton(box);
+        button->setObjectName("DirectionButton");
+        button->setFlat(true);
+        button->setCheckable(true);
+        button->setFixedSize(16, 16);
+        button->setToolTip(directionName(cell));
+        grid->addWidget(button, cell / 3, cell % 3);
+        connect(button, &QPushButton::clicked, this, &DirectionsWidget::slotClicked);
+        buttons.append(button);
+    }
+    buttons.at(current)->setChecked(true);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(box);
+}
+
+void DirectionsWidget::setDirection(Direction direction)
+{
+    for (int cell = TopLeft; cell <= BottomRight; ++cell)
+        buttons.at(cell)->setChecked(cell == direction);
+    current = direction;
+}
+
+void DirectionsWidget::slotClicked()
+{
+    for (QPushButton* button : qAsConst(buttons))
+        button->setChecked(false);
+    if (auto* clicked = qobject_cast<QPushButton*>(sender()))
+        clicked->setChecked(true);
+    for (int cell = TopLeft; cell <= BottomRight; ++cell) {
+        if (buttons.at(cell)->isChecked()) {
+            current = Direction(cell);
+            break;
+        }
+    }
+    emit directionChanged(current);
+}

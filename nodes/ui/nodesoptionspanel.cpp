@@ -1,0 +1,113 @@
+#include "nodesoptionspanel.h"
+
+#include "animatedlabel.h"
+#include "app.h"
+#include "basenode.h"
+#include "commondata.h"
+#include "imagelabel.h"
+#include "nodecatalogue.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <QVector>
+
+NodesOptionsPanel::NodesOptionsPanel(QWidget* parent)
+    : QFrame(parent)
+    , startLabel(new OrkWidgets::ImageLabel(":/initlabel_en.png", this))
+    , stack(new QStackedWidget(this))
+{
+    OrkWidgets::AnimatedLabel* arrow =
+        startLabel->addAnimation(":/arrow.gif", QSize(100, 100), Qt::AlignLeft | Qt::AlignBottom);
+    arrow->setRepeatDelay(10000);
+    stack->addWidget(startLabel);
+    setMinimumHeight(175);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(0);
+    layout->addWidget(stack);
+}
+
+BaseNode* NodesOptionsPanel::createNode(const QString& name)
+{
+    BaseNode* node = createNodeByName(name);
+    if (!node)
+        return nullptr;
+    createdNodes.append(node);
+    stack->addWidget(node);
+    stack->setCurrentWidget(node);
+    connect(node, &BaseNode::parametersChanged, this, &NodesOptionsPanel::slotParametersChanged);
+    return node;
+}
+
+void NodesOptionsPanel::setImage(const QImage& image)
+{
+    source = image.convertToFormat(QImage::Format_ARGB32);
+    runFlow();
+    emit realPreview();
+}
+
+int NodesOptionsPanel::previewLimit()
+{
+    return qRound(OrkWidgets::App::devicePixelRatio() * 360.0);
+}
+
+QImage NodesOptionsPanel::previewCopy(const QImage& image)
+{
+    const int limit = previewLimit();
+    // Only the width is compared: a narrow, tall photo is left as it is.
+    if (CommonData::instance()->previewMode && image.width() > limit)
+        return image.scaled(limit, limit, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return image;
+}
+
+void NodesOptionsPanel::slotShowOptions(BaseNode* node)
+{
+    if (node)
+        stack->setCurrentWidget(node);
+}
+
+void NodesOptionsPanel::slotFlowChanged(QMap<int, BaseNode*> flow)
+{
+    nodesFlow = flow;
+    runFlow();
+}
+
+void NodesOptionsPanel::slotNodeRemoved(QMap<int, BaseNode*> flow, BaseNode* removed,
+                                        BaseNode* next)
+{
+    if (removed) {
+        stack->removeWidget(removed);
+        createdNodes.removeAll(removed);
+        removed->deleteLater();
+    }
+    if (next)
+        stack->setCurrentWidget(next);
+    nodesFlow = flow;
+    runFlow();
+}
+
+void NodesOptionsPanel::slotParametersChanged()
+{
+    runFlow();
+}
+
+void NodesOptionsPanel::runFlow()
+{
+    QImage image = previewCopy(source);
+    // Before the first photo there is nothing for the kernels to work on.
+    if (!image.isNull()) {
+        // Guarded: a node removed while events run is skipped, not touched.
+        QVector<QPointer<BaseNode>> nodes;
+        for (int position = 0; position < nodesFlow.size(); ++position)
+            nodes.append(nodesFlow.value(position));
+        for (const QPointer<BaseNode>& node : qAsConst(nodes)) {
+            QCoreApplication::processEvents();
+            if (node)
+                node->process(image);
+        }
+    }
+    QCoreApplication::processEvents();
+    emit imageChanged(image);
+}

@@ -1,0 +1,101 @@
+// "Watermark": a text or a logo placed on the image. The logo travels inside the parameter
+// text as a data URI, so a flow never refers to the file it came from.
+#pragma once
+
+#include "keyednode.h"
+#include "wmrparams.h"
+
+#include <QVector>
+
+class ComboSlider;
+class DirectionsWidget;
+class QCheckBox;
+class QComboBox;
+class QFontComboBox;
+class QFormLayout;
+class QLineEdit;
+class QPushButton;
+class QSpinBox;
+namespace OrkWidgets {
+class ColorButton;
+}
+
+// The kernel's record plus the logo's file name, which is stored but not drawn.
+struct WMRValues : OrkGraphX::WMRParams
+{
+    // Every other value starts at zero; the logo starts as the built-in one.
+    WMRValues();
+
+    QString ImageName;
+};
+
+class WMRNode : public KeyedNode<WMRNode, WMRValues>
+{
+    Q_OBJECT
+
+public:
+    using WMRParams = OrkGraphX::WMRParams;
+
+    static constexpr const char* Name = "Watermark";
+    // The "Logo:" text of the built-in logo; with it "ImageData" is stored empty.
+    static constexpr const char* BuiltInLogoName = "qubrast.png";
+
+    explicit WMRNode(QWidget* parent = nullptr);
+
+    static const Keys& keys();
+    static QImage run(QImage image, const WMRValues& values);
+
+    // The built-in logo ":/qubrast.png", loaded once.
+    static QImage builtInLogo();
+    // "data:image/png;base64,..." whatever format the logo came from.
+    static QString logoDataUri(const QImage& logo);
+    // Any picture format Qt reads, behind "data:...;base64,"; a null image when it does not decode.
+    static QImage logoFromDataUri(const QString& text);
+
+    // Takes the picture in fileName as the logo. When it cannot be read, a warning box says so
+    // and the previous logo stays.
+    bool openLogoFile(const QString& fileName);
+
+public slots:
+    // 0 shows the rows of the text watermark, 1 those of the logo.
+    void slotModeChanged(int mode);
+    void slotWMRBrowse();
+    // The compact form, while checked, keeps only the kind and the text or logo rows.
+    void slotShrinkClicked(bool checked);
+
+private:
+    // A row of the form and the kind it belongs to (-1 to both); essential rows stay compact.
+    struct Row
+    {
+        QWidget* field = nullptr;
+        int mode = -1;
+        bool essential = false;
+    };
+
+    void addRow(QFormLayout* form, const QString& label, QWidget* field, int mode, bool essential);
+    QWidget* newRowBox(std::initializer_list<QWidget*> widgets);
+    void updateRows();
+
+    QComboBox* kindCombo = nullptr;
+    QPushButton* shrinkButton = nullptr;
+    QLineEdit* textEdit = nullptr;
+    QFontComboBox* fontCombo = nullptr;
+    QPushButton* boldButton = nullptr;
+    QPushButton* italicButton = nullptr;
+    QPushButton* underlinedButton = nullptr;
+    OrkWidgets::ColorButton* colorButton = nullptr;
+    OrkWidgets::ColorButton* backgroundButton = nullptr;
+    QCheckBox* backgroundEnabledBox = nullptr;
+    QLineEdit* logoLine = nullptr;
+    QPushButton* browseButton = nullptr;
+    ComboSlider* sizeSlider = nullptr;
+    ComboSlider* transparencySlider = nullptr;
+    DirectionsWidget* directions = nullptr;
+    QSpinBox* xOffsetBox = nullptr;
+    QSpinBox* yOffsetBox = nullptr;
+    QCheckBox* expandBox = nullptr;
+    QImage logo;
+    QFormLayout* form = nullptr;
+    QVector<Row> rows;
+    bool compact = false;
+};
