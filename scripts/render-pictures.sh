@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Re-renders the committed pictures of resources/pictures from their SVG sources in
 # resources/svg (at the size each SVG declares, and @2x for high-density screens), makes the
-# greyed-out button pictures, assembles the animated arrow with ImageMagick and lists them all
-# in resources/pictures/pictures.qrc.
+# greyed-out button pictures, assembles the animated arrow with ImageMagick, lists them all
+# in resources/pictures/pictures.qrc and renders the desktop icon of dist/linux in its sizes.
 #   scripts/render-pictures.sh [path/to/pelodine-svgrender] [--sheet contact-sheet.png]
 # The `pictures` target of the build runs it with the freshly built renderer.
 set -euo pipefail
@@ -60,6 +60,14 @@ for step in 0 1 2 3 4 5 6 5 4 3 2 1; do
 done
 convert -delay 8 -loop 0 "${frames[@]}" "$out/arrow.gif"
 
+# The application icon for the desktop, in the hicolor sizes beside its scalable source.
+icons=$root/dist/linux/icons/hicolor
+for side in 16 22 24 32 48 64 128 256 512; do
+    mkdir -p "$icons/${side}x$side/apps"
+    "$renderer" "$icons/scalable/apps/org.qubrast.Pelodine.svg" \
+        "$icons/${side}x$side/apps/org.qubrast.Pelodine.png" "${side}x$side"
+done
+
 # The resource list names every rendered picture, compiled in under ":/".
 {
     echo '<!DOCTYPE RCC>'
@@ -75,5 +83,5 @@ convert -delay 8 -loop 0 "${frames[@]}" "$out/arrow.gif"
 if [ -n "$sheet" ]; then
     mapfile -t pictures < <(find "$out" -name '*@2x.png' | sort)
     montage -background '#474747' -fill '#e6e6e6' -label '%t' -pointsize 10 \
-        -geometry '+8+8' -tile 8x "${pictures[@]}" "$sheet"
+        -geometry '96x96>+6+6' -tile 12x "${pictures[@]}" "$sheet"
 fi

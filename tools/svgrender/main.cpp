@@ -6,6 +6,25 @@
 #include <QSvgRenderer>
 #include <QTextStream>
 
+namespace {
+
+// "2" scales the picture's own size, "48x48" gives the size itself; anything else is empty.
+QSize outputSize(const QString& argument, const QSize& ownSize)
+{
+    if (argument.isEmpty())
+        return ownSize;
+    const QStringList parts = argument.split('x');
+    bool firstOk = false;
+    bool secondOk = parts.size() == 1;
+    const int first = parts.first().toInt(&firstOk);
+    const int second = secondOk ? first : parts.value(1).toInt(&secondOk);
+    if (!firstOk || !secondOk || first < 1 || second < 1 || parts.size() > 2)
+        return {};
+    return parts.size() == 1 ? ownSize * first : QSize(first, second);
+}
+
+} // namespace
+
 int main(int argc, char* argv[])
 {
     // Fonts need a platform plugin; the renderer must also run where no display exists.
@@ -15,10 +34,8 @@ int main(int argc, char* argv[])
     QTextStream err(stderr);
 
     const QStringList arguments = QGuiApplication::arguments();
-    bool scaleOk = arguments.size() < 4;
-    const int scale = scaleOk ? 1 : arguments.at(3).toInt(&scaleOk);
-    if (arguments.size() < 3 || arguments.size() > 4 || !scaleOk || scale < 1) {
-        err << "usage: pelodine-svgrender <input.svg> <output.png> [scale]\n";
+    if (arguments.size() < 3 || arguments.size() > 4) {
+        err << "usage: pelodine-svgrender <input.svg> <output.png> [scale | WIDTHxHEIGHT]\n";
         return 2;
     }
 
@@ -28,8 +45,12 @@ int main(int argc, char* argv[])
         return 1;
     }
 
-    // The picture's own width and height attributes give its size at scale 1.
-    const QSize size = renderer.defaultSize() * scale;
+    // Without a size the picture's own width and height attributes give it.
+    const QSize size = outputSize(arguments.value(3), renderer.defaultSize());
+    if (size.isEmpty()) {
+        err << "bad size " << arguments.at(3) << '\n';
+        return 2;
+    }
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
