@@ -70,6 +70,8 @@ int main(int argc, char* argv[])
     app->setHomePage("https://example.org/pelodine");
     app->setApplicationVersion("1.0");
     app->setOrganizationDomain("example.org");
+    // Lets the desktop match our windows to the installed launcher.
+    QGuiApplication::setDesktopFileName("org.qubrast.Pelodine");
     app->setStyleSheet(readResourceText(":/stylesheet.qss"));
 
     if (app->isFirstStart())
