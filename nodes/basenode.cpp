@@ -61,7 +61,8 @@ QDomElement BaseNode::writeParameters(QDomDocument document)
 
 QString BaseNode::parametersText()
 {
-    QDomDocument document;
+    // A document made with a (empty) name is a real one: a default-constructed one is null.
+    QDomDocument document(QStringLiteral(""));
     document.appendChild(writeParameters(document));
     return document.toString(1);
 }

@@ -1,6 +1,7 @@
 // The nine placement cells of a watermark, in reading order, and their stored names.
 #pragma once
 
+#include <QMetaType>
 #include <QString>
 
 enum Direction {
@@ -14,6 +15,7 @@ enum Direction {
     BottomMiddle,
     BottomRight
 };
+Q_DECLARE_METATYPE(Direction)
 
 // "TopLeft" .. "BottomRight"; an empty text for a value outside 0..8.
 QString directionName(int direction);

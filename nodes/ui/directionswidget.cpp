@@ -9,6 +9,7 @@ DirectionsWidget::DirectionsWidget(QWidget* parent)
     : QFrame(parent)
     , box(new QGroupBox(this))
 {
+    qRegisterMetaType<Direction>("Direction");
     box->setFixedSize(58, 58);
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(1, 1, 1, 1);
