@@ -44,6 +44,7 @@ BaseNode* NodesOptionsPanel::createNode(const QString& name)
 void NodesOptionsPanel::setImage(const QImage& image)
 {
     source = image.convertToFormat(QImage::Format_ARGB32);
+    reducedFor = -1;
     runFlow();
     emit realPreview();
 }
@@ -93,9 +94,19 @@ void NodesOptionsPanel::slotParametersChanged()
     runFlow();
 }
 
+QImage NodesOptionsPanel::workingCopy()
+{
+    const int limit = CommonData::instance()->previewMode ? previewLimit() : 0;
+    if (limit != reducedFor) {
+        reducedSource = previewCopy(source);
+        reducedFor = limit;
+    }
+    return reducedSource;
+}
+
 void NodesOptionsPanel::runFlow()
 {
-    QImage image = previewCopy(source);
+    QImage image = workingCopy();
     // Before the first photo there is nothing for the kernels to work on.
     if (!image.isNull()) {
         // Guarded: a node removed while events run is skipped, not touched.

@@ -53,10 +53,16 @@ private:
     // Pending events run between the nodes, so a change made meanwhile may start a run of its
     // own from inside this one; this run then goes on with its own copy.
     void runFlow();
+    // The working copy for the current flag and limit, reduced again only when they or the
+    // photo change: a slider drag on a large photo does not pay for the reduction every time.
+    QImage workingCopy();
 
     QImage source;
     QMap<int, BaseNode*> nodesFlow;
     QList<BaseNode*> createdNodes;
     OrkWidgets::ImageLabel* startLabel = nullptr;
     QStackedWidget* stack = nullptr;
+    QImage reducedSource;
+    // The limit reducedSource was made for, 0 when it is the photo itself, -1 when outdated.
+    int reducedFor = -1;
 };

@@ -34,6 +34,7 @@ private slots:
     void directionsSetDirectionIsSilent();
     void previewReduction_data();
     void previewReduction();
+    void previewModeFollowsTheFlag();
     void setImageKeepsARGB32AndReportsRealPreview();
     void createNode_data();
     void createNode();
@@ -222,6 +223,23 @@ void TestNodesOptionsPanel::previewReduction()
             ? source.scaled(360, 360, Qt::KeepAspectRatio, Qt::SmoothTransformation)
             : source;
     QCOMPARE_IMAGES(result, working);
+}
+
+void TestNodesOptionsPanel::previewModeFollowsTheFlag()
+{
+    NodesOptionsPanel panel;
+    QSignalSpy images(&panel, &NodesOptionsPanel::imageChanged);
+    panel.setImage(NodeTest::photo(2000, 1000));
+    QCOMPARE(images.last().at(0).value<QImage>().size(), QSize(360, 180));
+    CommonData::instance()->previewMode = 0;
+    panel.slotParametersChanged();
+    QCOMPARE(images.last().at(0).value<QImage>().size(), QSize(2000, 1000));
+    CommonData::instance()->previewMode = 1;
+    panel.slotParametersChanged();
+    QCOMPARE(images.last().at(0).value<QImage>().size(), QSize(360, 180));
+    // Another photo is reduced afresh.
+    panel.setImage(NodeTest::photo(720, 720));
+    QCOMPARE(images.last().at(0).value<QImage>().size(), QSize(360, 360));
 }
 
 void TestNodesOptionsPanel::setImageKeepsARGB32AndReportsRealPreview()
