@@ -1,0 +1,249 @@
+// pelodine-batch: runs a flow over photos from the command line and writes what the window's
+// batch writes for the same flow, photos and settings. Needs no display.
+#include "app.h"
+#include "batchengine.h"
+#include "flowfile.h"
+#include "outputnaming.h"
+#include "outputsettings.h"
+#include "pelodineconfig.h"
+#include "photofiles.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QTextStream>
+
+namespace {
+
+// Exit codes.
+const int allWritten = 0;
+const int someFailed = 1;
+const int badUsage = 2;
+
+struct Job
+{
+    BatchOperations operations;
+    OutputSettings settings;
+    QString destination;
+    QStringList photos;
+    bool quiet = false;
+};
+
+QTextStream& err()
+{
+    static QTextStream stream(stderr);
+    return stream;
+}
+
+void addOptions(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription(QCoreApplication::translate(
+        "main",
+        "Runs a Pelodine flow over photos and writes the results, as the window's \"Save "
+        "Results\" does.\n"
+        "Options that are not given come from the settings of the Pelodine window.\n"
+        "Progress and a summary go to the standard error; every photo that failed is named "
+        "with the reason.\n"
+        "Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a "
+        "flow that cannot be read.\n"
+        "A source photo is never written over."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({
+        {"flow",
+         QCoreApplication::translate("main", "The flow: a .flow file, or the name of a flow in "
+                                             "the flows folder (%1). Default: the built-in "
+                                             "sample flow.")
+             .arg(FlowFile::flowsFolder()),
+         "FILE|NAME"},
+        {"output",
+         QCoreApplication::translate("main", "The folder to write into. Default: a new folder "
+                                             "named by the start time under %1.")
+             .arg(OrkWidgets::App::outputBaseFolder()),
+         "DIR"},
+        {"format",
+         QCoreApplication::translate("main", "The output format; the file extension is its name "
+                                             "in lower case."),
+         OutputSettings::formats().join('|')},
+        {"quality", QCoreApplication::translate("main", "The JPEG quality."), "1-100"},
+        {"rename",
+         QCoreApplication::translate("main", "Name the files NAME followed by a number instead "
+                                             "of the photo's name."),
+         "NAME"},
+        {"numbers",
+         QCoreApplication::translate("main", "The numbers when renaming: all 0, 1, 2, ...; odd "
+                                             "1, 3, 5, ...; even 2, 4, 6, ..."),
+         "all|odd|even"},
+        {"quiet", QCoreApplication::translate("main", "Print only the photos that failed.")},
+    });
+    parser.addPositionalArgument(
+        "PHOTO|FOLDER",
+        QCoreApplication::translate("main", "Photos, and folders whose image files (subfolders "
+                                            "included) are taken in name order."),
+        "PHOTO|FOLDER...");
+}
+
+// Each step below fills its part of the job and returns an empty text, or the reason the
+// command line cannot be run.
+
+QString readFlow(const QCommandLineParser& parser, Job& job)
+{
+    QString path = ":/sample.flow";
+    if (parser.isSet("flow")) {
+        const QString flow = parser.value("flow");
+        path = QFileInfo(flow).isFile() ? flow : FlowFile::findFlow(flow);
+        if (path.isEmpty())
+            return QCoreApplication::translate("main", "no flow file or flow named %1").arg(flow);
+    }
+    QString text;
+    if (!FlowFile::readFlowFile(path, &text))
+        return QCoreApplication::translate("main", "cannot read the flow %1").arg(path);
+    bool ok = false;
+    job.operations = FlowFile::operationsFromText(text, &ok);
+    if (!ok)
+        return QCoreApplication::translate("main", "%1 is not a flow: it is not well-formed XML")
+            .arg(path);
+    return {};
+}
+
+// The stored settings with the options given on top.
+QString readSettings(const QCommandLineParser& parser, Job& job)
+{
+    OutputSettings& settings = job.settings;
+    settings = OutputSettings::load();
+    if (parser.isSet("format")) {
+        const QString format = parser.value("format").toUpper();
+        if (!OutputSettings::formats().contains(format))
+            return QCoreApplication::translate("main", "unknown format %1")
+                .arg(parser.value("format"));
+        settings.format = format;
+    }
+    if (parser.isSet("quality")) {
+        bool ok = false;
+        settings.quality = parser.value("quality").toInt(&ok);
+        if (!ok || settings.quality < 1 || settings.quality > 100)
+            return QCoreApplication::translate("main", "the quality must be 1 to 100");
+    }
+    if (parser.isSet("rename")) {
+        settings.rename = true;
+        settings.newName = parser.value("rename");
+    }
+    if (parser.isSet("numbers")) {
+        settings.numbers = QStringList{"all", "odd", "even"}.indexOf(parser.value("numbers"));
+        if (settings.numbers < 0)
+            return QCoreApplication::translate("main", "the numbers must be all, odd or even");
+    }
+    return {};
+}
+
+QString findPhotos(const QStringList& arguments, Job& job)
+{
+    if (arguments.isEmpty())
+        return QCoreApplication::translate("main", "no photos given");
+    QList<QUrl> urls;
+    for (const QString& argument : arguments)
+        urls << QUrl::fromLocalFile(QFileInfo(argument).absoluteFilePath());
+    const QList<QUrl> photos = PhotoFiles::expandFolders(urls);
+    for (const QUrl& photo : photos)
+        job.photos << photo.toLocalFile();
+    if (job.photos.isEmpty())
+        return QCoreApplication::translate("main", "no photos in the folders given");
+    return {};
+}
+
+QString makeDestination(const QCommandLineParser& parser, Job& job)
+{
+    job.destination = parser.isSet("output")
+                          ? QDir(parser.value("output")).absolutePath() + "/"
+                          : OrkWidgets::App::outputBaseFolder() +
+                                QDateTime::currentDateTime().toString("yyyy-MM-dd_hh-mm-ss") + "/";
+    if (!QDir().mkpath(job.destination))
+        return QCoreApplication::translate("main", "cannot create the folder %1")
+            .arg(job.destination);
+    return {};
+}
+
+QString parseJob(QCommandLineParser& parser, Job& job)
+{
+    if (!parser.parse(QCoreApplication::arguments()))
+        return parser.errorText();
+    if (parser.isSet("help"))
+        parser.showHelp(allWritten);
+    if (parser.isSet("version"))
+        parser.showVersion();
+    job.quiet = parser.isSet("quiet");
+    QString error = readFlow(parser, job);
+    if (error.isEmpty())
+        error = readSettings(parser, job);
+    if (error.isEmpty())
+        error = findPhotos(parser.positionalArguments(), job);
+    if (error.isEmpty())
+        error = makeDestination(parser, job);
+    return error;
+}
+
+int run(const Job& job)
+{
+    const OutputSettings& settings = job.settings;
+    BatchEngine engine(job.photos, job.operations, settings.format, settings.writerQuality());
+    const QString extension = "." + OutputNaming::extension(settings.format);
+    int oddCounter = 1;
+    int evenCounter = 2;
+    QStringList failures;
+    const int count = engine.count();
+    for (int i = 0; i < count; ++i) {
+        const QString& source = job.photos.at(i);
+        if (!job.quiet)
+            err() << i + 1 << " of " << count << ": " << source << Qt::endl;
+        const BatchEngine::Photo photo = engine.process(i);
+        if (photo.image.isNull()) {
+            failures << source + ": " + photo.error;
+            continue;
+        }
+        const QString name = OutputNaming::outputName(source, i, settings.rename, settings.newName,
+                                                      settings.numbers, oddCounter, evenCounter);
+        const BatchEngine::WriteResult result =
+            engine.write(photo.image, job.destination + name + extension);
+        if (!result.written)
+            failures << source + ": " + result.error;
+    }
+    if (!job.quiet)
+        err() << QCoreApplication::translate("main", "%1 of %2 photos written into %3")
+                     .arg(count - failures.size())
+                     .arg(count)
+                     .arg(job.destination)
+              << Qt::endl;
+    if (!failures.isEmpty()) {
+        err() << QCoreApplication::translate("main", "%n photo(s) failed:", nullptr,
+                                             failures.size())
+              << Qt::endl;
+        for (const QString& failure : qAsConst(failures))
+            err() << "  " << failure << Qt::endl;
+    }
+    return failures.isEmpty() ? allWritten : someFailed;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // The nodes need an application object with fonts, never a screen.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName("Qubrast");
+    QApplication::setApplicationName("Pelodine");
+    QApplication::setApplicationVersion(PELODINE_VERSION);
+
+    QCommandLineParser parser;
+    addOptions(parser);
+    Job job;
+    const QString error = parseJob(parser, job);
+    if (!error.isEmpty()) {
+        err() << "pelodine-batch: " << error << Qt::endl;
+        return badUsage;
+    }
+    return run(job);
+}

@@ -1,0 +1,96 @@
+#include "appsettingsdialog.h"
+
+#include "comboslider.h"
+#include "outputsettings.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+AppSettingsDialog::AppSettingsDialog(QWidget* parent)
+    : QDialog(parent, Qt::Tool | Qt::WindowSystemMenuHint)
+{
+    setWindowTitle(QCoreApplication::applicationName() + tr(" Settings"));
+
+    openLocationBox = new QCheckBox(tr("Open Destination Folder When Done"));
+
+    formatCombo = new QComboBox;
+    formatCombo->addItems(OutputSettings::formats());
+    formatCombo->setFixedWidth(140);
+    qualityLabel = new QLabel(tr("Quiality:"));
+    qualitySlider = new ComboSlider;
+    qualitySlider->setRange(1, 100);
+    auto* formatBox = new QGroupBox(tr("Output Format"));
+    auto* formatForm = new QFormLayout(formatBox);
+    formatForm->addRow(tr("Format:"), formatCombo);
+    formatForm->addRow(qualityLabel, qualitySlider);
+
+    renameBox = new QGroupBox(tr("Rename"));
+    renameBox->setCheckable(true);
+    newNameEdit = new QLineEdit;
+    numbersCombo = new QComboBox;
+    numbersCombo->addItems({tr("All"), tr("Odd"), tr("Even")});
+    auto* renameForm = new QFormLayout(renameBox);
+    renameForm->addRow(tr("New Name:"), newNameEdit);
+    renameForm->addRow(tr("Numbers:"), numbersCombo);
+
+    auto* okButton = new QPushButton(tr("Ok"));
+    okButton->setObjectName("PushButton");
+    auto* cancelButton = new QPushButton(tr("Cancel"));
+    cancelButton->setObjectName("PushButton");
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(okButton);
+    buttons->addWidget(cancelButton);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(openLocationBox);
+    layout->addWidget(formatBox);
+    layout->addWidget(renameBox);
+    layout->addLayout(buttons);
+
+    connect(okButton, &QPushButton::clicked, this, &AppSettingsDialog::slotSaveSettings);
+    connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(formatCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &AppSettingsDialog::slotFormatChanged);
+    slotLoadSettings();
+}
+
+void AppSettingsDialog::slotSaveSettings()
+{
+    OutputSettings settings;
+    settings.openLocation = openLocationBox->isChecked();
+    settings.rename = renameBox->isChecked();
+    settings.quality = qualitySlider->value();
+    settings.newName = newNameEdit->text();
+    settings.format = formatCombo->currentText();
+    settings.numbers = numbersCombo->currentIndex();
+    settings.save();
+    accept();
+}
+
+void AppSettingsDialog::slotLoadSettings()
+{
+    const OutputSettings settings = OutputSettings::load();
+    openLocationBox->setChecked(settings.openLocation);
+    renameBox->setChecked(settings.rename);
+    newNameEdit->setText(settings.newName);
+    qualitySlider->setValue(settings.quality);
+    formatCombo->setCurrentText(settings.format);
+    numbersCombo->setCurrentIndex(settings.numbers);
+    slotFormatChanged();
+}
+
+void AppSettingsDialog::slotFormatChanged()
+{
+    const bool jpeg = formatCombo->currentText() == "JPEG";
+    qualityLabel->setEnabled(jpeg);
+    qualitySlider->setEnabled(jpeg);
+}

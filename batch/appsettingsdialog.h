@@ -1,0 +1,35 @@
+// The output settings: format and JPEG quality, renaming and numbering, opening the folder.
+#pragma once
+
+#include <QDialog>
+
+class ComboSlider;
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+
+class AppSettingsDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit AppSettingsDialog(QWidget* parent = nullptr);
+
+public slots:
+    // Stores the six settings and closes the dialog as accepted.
+    void slotSaveSettings();
+    void slotLoadSettings();
+    // The quality applies to "JPEG" only; the value stays as it is either way.
+    void slotFormatChanged();
+
+private:
+    QCheckBox* openLocationBox = nullptr;
+    QComboBox* formatCombo = nullptr;
+    QLabel* qualityLabel = nullptr;
+    ComboSlider* qualitySlider = nullptr;
+    QGroupBox* renameBox = nullptr;
+    QLineEdit* newNameEdit = nullptr;
+    QComboBox* numbersCombo = nullptr;
+};

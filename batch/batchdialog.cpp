@@ -1,0 +1,135 @@
+#include "batchdialog.h"
+
+#include "app.h"
+#include "batchthread.h"
+#include "batchworker.h"
+#include "outputsettings.h"
+
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+// Without the customize hint Qt would add a system menu and the window manager a close
+// button: the run is ended through Stop only.
+BatchDialog::BatchDialog(QWidget* parent)
+    : QDialog(parent,
+              Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint)
+    , worker(new BatchWorker)
+{
+    thread = new BatchThread(worker, this);
+    worker->moveToThread(thread);
+
+    setWindowTitle(QCoreApplication::applicationName() + tr(" Batch Process"));
+    setMinimumWidth(500);
+
+    previewLabel = new QLabel;
+    previewLabel->setObjectName("PreviewLabel");
+    previewLabel->setMinimumSize(400, 400);
+    previewLabel->setAlignment(Qt::AlignCenter);
+    infoLabel = new QLabel;
+    progressBar = new QProgressBar;
+    progressBar->setRange(0, 100);
+    progressBar->setMaximumHeight(32);
+    pauseButton = new QPushButton(tr("Pause"));
+    pauseButton->setObjectName("BatchPauseButton");
+    pauseButton->setCheckable(true);
+    stopButton = new QPushButton(tr("Stop"));
+    stopButton->setObjectName("BatchStopButton");
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(pauseButton);
+    buttons->addWidget(stopButton);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(previewLabel);
+    layout->addWidget(infoLabel);
+    layout->addWidget(progressBar);
+    layout->addLayout(buttons);
+
+    connect(worker, &BatchWorker::updateInfo, this, &BatchDialog::slotUpdateInfo);
+    connect(worker, &BatchWorker::finished, this, &BatchDialog::slotAccept);
+    connect(pauseButton, &QPushButton::clicked, this, &BatchDialog::slotPause);
+    connect(stopButton, &QPushButton::clicked, this, &BatchDialog::slotStop);
+    connect(this, &QDialog::rejected, this, &BatchDialog::slotStop);
+    // A stop that comes before the worker has begun ends the thread without a finished();
+    // the dialog must close all the same. After a run the dialog is already closed.
+    connect(thread, &QThread::finished, this, [this] {
+        if (isVisible() && !thread->isRunning())
+            accept();
+    });
+}
+
+BatchDialog::~BatchDialog()
+{
+    worker->requestStop();
+    thread->quit();
+    thread->wait();
+    delete worker;
+}
+
+void BatchDialog::startBatch(const BatchOperations& operations, const QList<QUrl>& files)
+{
+    thread->wait();
+    const OutputSettings settings = OutputSettings::load();
+    destination = OrkWidgets::App::outputBaseFolder() +
+                  QDateTime::currentDateTime().toString("yyyy-MM-dd_hh-mm-ss") + "/";
+    QDir().mkpath(destination);
+    worker->prepare(settings, destination, files, operations);
+    thread->start(QThread::InheritPriority);
+}
+
+void BatchDialog::slotPause()
+{
+    const bool pause = pauseButton->isChecked();
+    pauseButton->setText(pause ? tr("Resume") : tr("Pause"));
+    worker->setPaused(pause);
+}
+
+void BatchDialog::slotStop()
+{
+    worker->requestStop();
+    thread->quit();
+}
+
+void BatchDialog::slotProgressChanged(int value)
+{
+    Q_UNUSED(value)
+}
+
+void BatchDialog::slotAccept()
+{
+    accept();
+    if (OutputSettings::load().openLocation)
+        QDesktopServices::openUrl(QUrl::fromLocalFile(destination));
+    thread->quit();
+}
+
+void BatchDialog::slotUpdateInfo(const QImage& image, int nCur, int nCount)
+{
+    infoLabel->clear();
+    previewLabel->setPixmap(QPixmap::fromImage(
+        image.scaled(previewLabel->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+    progressBar->setValue(nCount > 0 ? nCur * 100 / nCount : 0);
+    infoLabel->setText(
+        QString("<CENTER><H2>%1 %2 %3</H2></CENTER>").arg(nCur + 1).arg(tr("of")).arg(nCount));
+}
+
+void BatchDialog::showEvent(QShowEvent* event)
+{
+    resetView();
+    QDialog::showEvent(event);
+}
+
+void BatchDialog::resetView()
+{
+    pauseButton->setChecked(false);
+    pauseButton->setText(tr("Pause"));
+    progressBar->setValue(0);
+    previewLabel->clear();
+    infoLabel->setText(tr("<CENTER><H1>Please, wait...</H1></CENTER>"));
+}

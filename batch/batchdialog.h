@@ -1,0 +1,60 @@
+// The progress window of a batch run: the latest result, the count, Pause/Resume and Stop.
+#pragma once
+
+#include "batchoperations.h"
+
+#include <QDialog>
+#include <QImage>
+#include <QList>
+#include <QUrl>
+
+class BatchThread;
+class BatchWorker;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+class BatchDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit BatchDialog(QWidget* parent = nullptr);
+    // Stops a run that is still going and waits for its thread.
+    ~BatchDialog() override;
+
+    // Reads the output settings, creates the time-stamped destination under the output base
+    // folder, hands everything to the worker and starts the thread. The caller then shows
+    // the dialog (exec()).
+    void startBatch(const BatchOperations& operations, const QList<QUrl>& files);
+
+    // The folder of the current run, ending in "/".
+    QString destinationFolder() const { return destination; }
+
+signals:
+    void start();
+    void paused();
+
+public slots:
+    void slotPause();
+    void slotStop();
+    // Kept for callers that report progress; the bar follows slotUpdateInfo.
+    void slotProgressChanged(int value);
+    void slotAccept();
+    void slotUpdateInfo(const QImage& image, int nCur, int nCount);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void resetView();
+
+    BatchWorker* worker = nullptr;
+    BatchThread* thread = nullptr;
+    QString destination;
+    QLabel* previewLabel = nullptr;
+    QLabel* infoLabel = nullptr;
+    QProgressBar* progressBar = nullptr;
+    QPushButton* pauseButton = nullptr;
+    QPushButton* stopButton = nullptr;
+};

@@ -1,0 +1,57 @@
+// The batch run itself: every photo through the flow and into the destination folder.
+// Lives on the batch thread; the dialog sets it up before the thread starts.
+#pragma once
+
+#include "batchoperations.h"
+
+#include <QImage>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+#include <atomic>
+
+struct OutputSettings;
+
+class BatchWorker : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit BatchWorker(QObject* parent = nullptr);
+
+    // The settings, destination (ending in "/"), photos and operations of the next run.
+    // Called before the thread starts; the run only reads them. The odd and even counters
+    // are left alone, so a second run continues their numbering.
+    void prepare(const OutputSettings& settings, const QString& destinationFolder,
+                 const QList<QUrl>& photos, const BatchOperations& flowOperations);
+
+    // Written by the interface thread, read between photos.
+    void setPaused(bool pause) { paused = pause; }
+    void requestStop() { stopRequested = true; }
+
+signals:
+    void finished();
+    // The processed photo at nCur (0-based) of nCount, before it is written.
+    void updateInfo(const QImage& image, int nCur, int nCount);
+
+public slots:
+    void slotDoWork();
+
+private:
+    void waitWhilePaused() const;
+
+    QString format = "JPEG";
+    int quality = 100;
+    bool rename = false;
+    QString newName = "NewName";
+    int numbers = 0;
+    QString destination = ".";
+    int oddCounter = 1;
+    int evenCounter = 2;
+    QList<QUrl> files;
+    BatchOperations operations;
+    std::atomic<bool> stopRequested{false};
+    std::atomic<bool> paused{false};
+};

@@ -1,0 +1,27 @@
+// The stored output settings of a batch run: format, quality, renaming and what happens at the end.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+struct OutputSettings
+{
+    bool openLocation = true;    // "KeyOpenLocation": open the destination when a run ends
+    QString format = "JPEG";     // "KeyFormat": one of formats()
+    int quality = 90;            // "KeyQuality": 1..100, used for "JPEG" only
+    bool rename = false;         // "KeyRename"
+    QString newName = "NewName"; // "KeyNewName": prefix of the new names
+    int numbers = 0;             // "KeyNumbers": 0 all, 1 odd, 2 even
+
+    // The stored values; a key that is missing or unreadable gives the default above.
+    static OutputSettings load();
+    // Writes the six keys in the order the settings dialog saves them.
+    void save() const;
+
+    // The output formats in the order the settings dialog lists them.
+    static QStringList formats();
+
+    // The quality handed to the image writer: the stored one for "JPEG", else the format's default
+    // (-1).
+    int writerQuality() const;
+};
