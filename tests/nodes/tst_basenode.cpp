@@ -9,6 +9,7 @@
 #include <QBuffer>
 #include <QFontComboBox>
 #include <QSignalSpy>
+#include <QtConcurrent/QtConcurrentRun>
 
 #include <memory>
 
@@ -35,6 +36,7 @@ private slots:
     void headlessStartsAtZero_data();
     void headlessStartsAtZero();
     void headlessWidensOtherDepths();
+    void headlessRunsOnAnyThread();
 };
 
 namespace {
@@ -345,6 +347,21 @@ void TestBaseNode::headlessWidensOtherDepths()
     const QImage narrow = photo.convertToFormat(QImage::Format_RGB888);
     const QString text = "<Parameters><Active>yes</Active></Parameters>";
     QCOMPARE_IMAGES(applyOperation("Invert", narrow, text), applyOperation("Invert", photo, text));
+}
+
+void TestBaseNode::headlessRunsOnAnyThread()
+{
+    // The batch calls the headless forms from a thread of its own.
+    const QImage photo = NodeTest::photo(64, 40);
+    for (const QString& name : factoryNodeNames()) {
+        auto node = newNode(name);
+        const QString text = node->parametersText();
+        const QImage here = applyOperation(name, photo, text);
+        const QImage there = QtConcurrent::run([name, photo, text] {
+                                 return applyOperation(name, photo, text);
+                             }).result();
+        QVERIFY2(TestUtils::imageDifference(there, here).isEmpty(), qPrintable(name));
+    }
 }
 
 PELODINE_TEST_MAIN(TestBaseNode)

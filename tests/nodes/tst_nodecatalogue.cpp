@@ -1,6 +1,7 @@
 #include "basenode.h"
 #include "clrnode.h"
 #include "comboslider.h"
+#include "commondata.h"
 #include "nodecatalogue.h"
 #include "nodetesthelpers.h"
 #include "rttnode.h"
@@ -42,6 +43,8 @@ private slots:
     void rotateAngle450();
     void resizeLoad_data();
     void resizeLoad();
+    void resizeFollowsThePreviewFlag_data();
+    void resizeFollowsThePreviewFlag();
     void resizeModeResetsSliders_data();
     void resizeModeResetsSliders();
     void nodesWithoutOptions_data();
@@ -380,6 +383,31 @@ void TestNodeCatalogue::resizeLoad()
     QCOMPARE(both.at(1)->unit(), unit);
     QCOMPARE(both.at(0)->value(), width);
     QCOMPARE(both.at(1)->value(), height);
+}
+
+void TestNodeCatalogue::resizeFollowsThePreviewFlag_data()
+{
+    QTest::addColumn<int>("previewMode");
+    QTest::addColumn<QSize>("processed");
+    // "Maximum Pixels" is skipped while the reduced preview runs; the headless form never is.
+    QTest::newRow("preview") << 1 << QSize(48, 36);
+    QTest::newRow("full size") << 0 << QSize(20, 15);
+}
+
+void TestNodeCatalogue::resizeFollowsThePreviewFlag()
+{
+    QFETCH(int, previewMode);
+    QFETCH(QSize, processed);
+    auto node = newNode("Resize");
+    NodeTest::readText(node.get(), "<Parameters><Mode>1</Mode><Width>20</Width>"
+                                   "<Height>20</Height></Parameters>");
+    CommonData::instance()->previewMode = previewMode;
+    QImage image = NodeTest::photo(48, 36);
+    node->process(image);
+    CommonData::instance()->previewMode = 1;
+    QCOMPARE(image.size(), processed);
+    const QImage headless = applyOperation("Resize", NodeTest::photo(48, 36), text(node.get()));
+    QCOMPARE(headless.size(), QSize(20, 15));
 }
 
 void TestNodeCatalogue::resizeModeResetsSliders_data()
