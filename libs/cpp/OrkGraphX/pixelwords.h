@@ -1,0 +1,48 @@
+// Helpers shared by the kernel sources; not part of the library's interface.
+#pragma once
+
+#include <QImage>
+
+#include <climits>
+#include <cmath>
+
+namespace OrkGraphX {
+namespace PixelWords {
+
+// Formats that store every pixel as one 32-bit word 0xAARRGGBB.
+inline bool isWordFormat(QImage::Format format)
+{
+    return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32 ||
+           format == QImage::Format_ARGB32_Premultiplied;
+}
+
+// The kernels read and write whole words, so any other format is converted to ARGB32 first;
+// reading an 8- or 24-bit image as words would run past its rows.
+inline QImage wordImage(const QImage& image)
+{
+    return isWordFormat(image.format()) ? image : image.convertToFormat(QImage::Format_ARGB32);
+}
+
+// Truncation toward zero, held inside the int range so that huge or non-finite values stay
+// defined (they then make allocations fail instead of invoking undefined behaviour).
+inline int truncToInt(double value)
+{
+    if (!(value > double(INT_MIN)))
+        return std::isnan(value) ? 0 : INT_MIN;
+    if (value >= double(INT_MAX))
+        return INT_MAX;
+    return int(value);
+}
+
+inline QRgb* rowWords(QImage& image, int y)
+{
+    return reinterpret_cast<QRgb*>(image.scanLine(y));
+}
+
+inline const QRgb* rowWords(const QImage& image, int y)
+{
+    return reinterpret_cast<const QRgb*>(image.constScanLine(y));
+}
+
+} // namespace PixelWords
+} // namespace OrkGraphX
