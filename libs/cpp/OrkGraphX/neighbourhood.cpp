@@ -1,0 +1,605 @@
+#include "neighbourhood.h"
+
+#include "pixelwords.h"
+
+#include <QPainter>
+#include <QTransform>
+#include <QtMath>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+namespace OrkGraphX {
+
+using namespace PixelWords;
+
+// ---------------------------------------------------------------------------------------------
+// Blur
+
+namespace {
+
+// Weights in sixteenths for radius 1..17; larger radii use 1.
+constexpr std::array<int, 17> blurAlphaTable = {14, 10, 8, 6, 5, 5, 4, 3, 3,
+                                                3,  3,  2, 2, 2, 2, 2, 2};
+
+// Eight 16-bit lanes hold the four bytes of two pixels. The accumulators keep four fraction
+// bits, so they stay within 0..4080 and every step fits 16-bit arithmetic.
+using Lanes = std::int16_t __attribute__((vector_size(16)));
+using UnsignedLanes = std::uint16_t __attribute__((vector_size(16)));
+using EightBytes = std::uint8_t __attribute__((vector_size(8)));
+
+inline Lanes loadSixteenths(const uchar* bytes)
+{
+    EightBytes b;
+    std::memcpy(&b, bytes, sizeof b);
+    return __builtin_convertvector(b, Lanes) << 4;
+}
+
+inline void storeBytes(uchar* bytes, Lanes z)
+{
+    const EightBytes b = __builtin_convertvector(z >> 4, EightBytes);
+    std::memcpy(bytes, &b, sizeof b);
+}
+
+// z + ((byte · 16 − z) · a) / 16 with the division truncating toward zero: the magnitude is
+// scaled unsigned (|d| · a < 65536) and the sign put back afterwards.
+inline Lanes blurStep(Lanes z, Lanes sixteenths, UnsignedLanes weight)
+{
+    const Lanes d = sixteenths - z;
+    const Lanes sign = d >> 15;
+    const UnsignedLanes magnitude = (UnsignedLanes)((d ^ sign) - sign);
+    const Lanes quotient = (Lanes)((magnitude * weight) >> 4);
+    return z + ((quotient ^ sign) - sign);
+}
+
+// The four passes over the region of a premultiplied image. The column passes walk the rows in
+// order with one accumulator per column, and each row pass runs right behind the column pass
+// that feeds it, eight rows at a time, so the image is read twice instead of four times.
+class ExponentialBlur
+{
+public:
+    ExponentialBlur(QImage& image, QRect region, UnsignedLanes weight)
+        : bits(image.bits())
+        , stride(image.bytesPerLine())
+        , left(region.left())
+        , right(region.right())
+        , weight(weight)
+        , columnAccumulators((right - left + 2) / 2)
+        , scratchRow(std::size_t(right + 2) * 4)
+    {
+    }
+
+    // Passes 1 and 2 from top to bottom, then 3 and 4 from bottom to top.
+    void run(int top, int bottom)
+    {
+        sweep(top, bottom, 1);
+        sweep(bottom, top, -1);
+    }
+
+private:
+    static constexpr int BlockRows = 8;
+
+    uchar* bits = nullptr;
+    qsizetype stride = 0;
+    int left = 0;
+    int right = 0;
+    UnsignedLanes weight{};
+    std::vector<Lanes> columnAccumulators;
+    std::vector<uchar> scratchRow;
+
+    uchar* row(int y) const { return bits + y * stride; }
+
+    void sweep(int first, int last, int direction)
+    {
+        const int rows = (last - first) * direction + 1;
+        for (int done = 0; done < rows; done += BlockRows) {
+            std::array<uchar*, BlockRows> block{};
+            for (int i = 0; i < BlockRows; ++i) {
+                const int y = first + (done + i) * direction;
+                if (done + i < rows) {
+                    block[i] = row(y);
+                    columnStep(block[i], done + i == 0);
+                } else {
+                    block[i] = scratchRow.data();
+                }
+            }
+            if (direction > 0)
+                rowPass(block, left, right, 1);
+            else
+                rowPass(block, right, left, -1);
+        }
+    }
+
+    // One row of a column pass; the first row of the line only sets the accumulators.
+    void columnStep(uchar* line, bool start)
+    {
+        uchar* bytes = line + std::size_t(left) * 4;
+        const int pixels = right - left + 1;
+        const int pairs = pixels / 2;
+        for (int i = 0; i < pairs; ++i) {
+            const Lanes sixteenths = loadSixteenths(bytes + i * 8);
+            if (start) {
+                columnAccumulators[i] = sixteenths;
+                continue;
+            }
+            columnAccumulators[i] = blurStep(columnAccumulators[i], sixteenths, weight);
+            storeBytes(bytes + i * 8, columnAccumulators[i]);
+        }
+        if (pixels % 2) {
+            // The odd last pixel goes through a padded pair.
+            uchar padded[8] = {};
+            std::memcpy(padded, bytes + pairs * 8, 4);
+            const Lanes sixteenths = loadSixteenths(padded);
+            Lanes& z = columnAccumulators[pairs];
+            if (start) {
+                z = sixteenths;
+                return;
+            }
+            z = blurStep(z, sixteenths, weight);
+            storeBytes(padded, z);
+            std::memcpy(bytes + pairs * 8, padded, 4);
+        }
+    }
+
+    // A row pass over eight rows from column `from` to column `to`, two rows per lane set.
+    void rowPass(const std::array<uchar*, BlockRows>& block, int from, int to, int direction)
+    {
+        constexpr int Pairs = BlockRows / 2;
+        std::array<Lanes, Pairs> z;
+        for (int p = 0; p < Pairs; ++p)
+            z[p] = pairAt(block, p, from);
+        for (int x = from + direction; x != to + direction; x += direction) {
+            for (int p = 0; p < Pairs; ++p) {
+                z[p] = blurStep(z[p], pairAt(block, p, x), weight);
+                uchar pair[8];
+                storeBytes(pair, z[p]);
+                std::memcpy(block[2 * p] + std::size_t(x) * 4, pair, 4);
+                std::memcpy(block[2 * p + 1] + std::size_t(x) * 4, pair + 4, 4);
+            }
+        }
+    }
+
+    static Lanes pairAt(const std::array<uchar*, BlockRows>& block, int p, int x)
+    {
+        uchar pair[8];
+        std::memcpy(pair, block[2 * p] + std::size_t(x) * 4, 4);
+        std::memcpy(pair + 4, block[2 * p + 1] + std::size_t(x) * 4, 4);
+        return loadSixteenths(pair);
+    }
+};
+
+} // namespace
+
+QImage blurImage(QImage& image, int radius, QRect region, bool alphaOnly)
+{
+    QImage result = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    if (result.isNull() || radius <= 0)
+        return result;
+    const std::int16_t a = radius <= 17 ? blurAlphaTable[radius - 1] : 1;
+    const QRect r = region.normalized();
+    const int left = std::max(r.left(), 0);
+    const int top = std::max(r.top(), 0);
+    const int right = std::min(r.right(), result.width() - 1);
+    const int bottom = std::min(r.bottom(), result.height() - 1);
+    if (left > right || top > bottom)
+        return result;
+    // Byte order in memory is B, G, R, A; a weight of 16 leaves a channel exactly as it is.
+    const std::int16_t c = alphaOnly ? 16 : a;
+    const UnsignedLanes weight = {std::uint16_t(c), std::uint16_t(c), std::uint16_t(c),
+                                  std::uint16_t(a), std::uint16_t(c), std::uint16_t(c),
+                                  std::uint16_t(c), std::uint16_t(a)};
+    ExponentialBlur(result, QRect(QPoint(left, top), QPoint(right, bottom)), weight)
+        .run(top, bottom);
+    return result;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Sharpness
+
+QImage sharpenImage(QImage& image)
+{
+    const QImage source = wordImage(image);
+    const int w = source.width();
+    const int h = source.height();
+    // Deliberately not cleared: the border that the filter does not reach keeps what the
+    // allocation holds.
+    QImage result(w, h, source.format());
+    if (result.isNull() || w - 2 < 2)
+        return result;
+    for (int y = 1; y <= h - 3; ++y) {
+        const QRgb* above = rowWords(source, y - 1);
+        const QRgb* line = rowWords(source, y);
+        const QRgb* below = rowWords(source, y + 1);
+        QRgb* out = rowWords(result, y);
+        for (int x = 1; x <= w - 3; ++x) {
+            QRgb word = 0xff000000;
+            for (int shift = 0; shift <= 16; shift += 8) {
+                const auto c = [shift](QRgb p) { return int((p >> shift) & 255); };
+                // The left neighbour counts twice and the right one not at all.
+                const int sum = c(above[x - 1]) + c(above[x]) + c(above[x + 1]) +
+                                2 * c(line[x - 1]) + c(below[x - 1]) + c(below[x]) +
+                                c(below[x + 1]);
+                const int v = 8 * c(line[x]) - sum;
+                word |= QRgb(v > 0 ? v / 9 : 0) << shift;
+            }
+            out[x] = word;
+        }
+    }
+    return result;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Vignette
+//
+// The vignette is defined as painting a radial gradient on an S x S square (S the longer side)
+// and drawing that square stretched over the image. Painting 16 million gradient pixels and
+// then sampling three quarters of them is slow, so the square is never made: every square pixel
+// holds one of 1024 values chosen by its gradient position, the positions are computed here
+// exactly as Qt's raster engine computes them, only for the square pixels the stretched drawing
+// samples, and those values are drawn onto the image unstretched, in bands, through QPainter so
+// that the blending itself stays Qt's.
+
+namespace {
+
+// Qt's raster engine fetches a span in chunks of this many pixels and starts its incremental
+// arithmetic afresh at each chunk.
+constexpr int RasterChunk = 2048;
+constexpr int GradientPositions = 1024;
+
+QGradientStops vignetteStops(const QColor& colour)
+{
+    const auto lifted = [&colour](int amount) {
+        return QColor(std::min(colour.red() + amount, 255), std::min(colour.green() + amount, 255),
+                      std::min(colour.blue() + amount, 255), 0);
+    };
+    return {{0.0, lifted(200)}, {0.5, lifted(40)}, {1.0, QColor(colour.rgb())}};
+}
+
+// Paints a brush over the whole of a freshly made image the way the square is painted.
+QImage paintedLikeSquare(QSize size, QImage::Format format, const QBrush& brush, int opacity)
+{
+    QImage canvas(size, format);
+    canvas.fill(QColor(255, 255, 255, 0));
+    QPainter painter(&canvas);
+    painter.setOpacity(opacity / 100.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawRect(canvas.rect());
+    return canvas;
+}
+
+// What the square holds at each gradient position: a one-pixel-wide strip painted like the
+// square with a linear gradient of the same stops that puts position k on row k.
+std::vector<QRgb> squareValues(QImage::Format format, const QGradientStops& stops, int opacity)
+{
+    QLinearGradient gradient(0, 0.5, 0, GradientPositions - 0.5);
+    gradient.setStops(stops);
+    const QImage strip = paintedLikeSquare(QSize(1, GradientPositions), format, gradient, opacity);
+    std::vector<QRgb> values(GradientPositions);
+    for (int k = 0; k < GradientPositions; ++k)
+        values[k] = rowWords(strip, k)[0];
+    return values;
+}
+
+// The gradient position of every pixel of one square row, as Qt's radial gradient fetch computes
+// it for a gradient centred on its focal point: the squared distance divided by the squared
+// radius is stepped incrementally from the start of each chunk. The 32-bit pipeline steps it in
+// single precision four pixels at a time; ARGB32 targets are painted through the 64-bit
+// pipeline, which steps it in double precision pixel by pixel.
+class RadialPositions
+{
+public:
+    RadialPositions(int squareSize, double centre, double radius, bool doublePrecision)
+        : size(squareSize)
+        , centre(centre)
+        , a(radius * radius)
+        , doublePrecision(doublePrecision)
+        , positions(std::size_t(squareSize) + 4)
+    {
+    }
+
+    // Positions of square row j, or nullptr when the gradient degenerates (radius 0), in which
+    // case Qt paints nothing but transparent black.
+    const std::uint16_t* row(int j)
+    {
+        if (a == 0)
+            return nullptr;
+        if (j != cachedRow) {
+            for (int x0 = 0; x0 < size; x0 += RasterChunk)
+                fetchChunk(x0, j, std::min(RasterChunk, size - x0));
+            cachedRow = j;
+        }
+        return positions.data();
+    }
+
+private:
+    int size = 0;
+    double centre = 0;
+    double a = 0;
+    bool doublePrecision = false;
+    int cachedRow = -1;
+    std::vector<std::uint16_t> positions;
+
+    void fetchChunk(int x0, int y, int length)
+    {
+        const double rx = (x0 + 0.5) - centre;
+        const double ry = (y + 0.5) - centre;
+        const double rxrxryry = rx * rx + ry * ry;
+        double invA = 1 / (2 * a);
+        invA *= invA;
+        double det = (4 * a * rxrxryry) * invA;
+        double deltaDet = (4 * a * (2 * rx + 1)) * invA;
+        const double deltaDeltaDet = (4 * a * 2) * invA;
+
+        std::uint16_t* out = positions.data() + x0;
+        if (doublePrecision) {
+            for (int i = 0; i < length; ++i) {
+                const int index = truncToInt(std::sqrt(det) * (GradientPositions - 1) + 0.5);
+                out[i] = std::uint16_t(std::clamp(index, 0, GradientPositions - 1));
+                det += deltaDet;
+                deltaDet += deltaDeltaDet;
+            }
+            return;
+        }
+        float detLanes[4];
+        float deltaDet4Lanes[4];
+        for (int i = 0; i < 4; ++i) {
+            detLanes[i] = float(det);
+            deltaDet4Lanes[i] = float(4 * deltaDet);
+            det += deltaDet;
+            deltaDet += deltaDeltaDet;
+        }
+        const float deltaDeltaDet16 = float(16 * deltaDeltaDet);
+        const float deltaDeltaDet6 = float(6 * deltaDeltaDet);
+        const float last = float(GradientPositions - 1);
+        for (int done = 0; done < length; done += 4) {
+            for (int i = 0; i < 4; ++i) {
+                const float index = std::sqrt(std::max(0.0f, detLanes[i])) * last + 0.5f;
+                out[done + i] = std::uint16_t(std::min(last, std::max(0.0f, index)));
+                detLanes[i] = (detLanes[i] + deltaDet4Lanes[i]) + deltaDeltaDet6;
+                deltaDet4Lanes[i] += deltaDeltaDet16;
+            }
+        }
+    }
+};
+
+// Which square column and row the stretched drawImage() of the square over a w x h image
+// samples for each image pixel. The texture fetch decides per raster chunk and row between
+// 16.16 fixed point and floating point, and the columns differ between the two.
+class StretchSampling
+{
+public:
+    struct Row
+    {
+        int square = 0;
+        bool fixedPoint = true;
+    };
+
+    StretchSampling(int w, int h, int squareSize, QImage::Format format)
+        : rowsByChunk(std::size_t((w + RasterChunk - 1) / RasterChunk), std::vector<Row>(h))
+    {
+        // Qt's scaling blitters serve premultiplied and RGB32 targets; ARGB32 targets, and sizes
+        // beyond their fixed-point range, go through the transformed texture fetch.
+        const bool blitter = format != QImage::Format_ARGB32 && w <= 0x7fff && h <= 0x7fff;
+        if (blitter)
+            sampleLikeBlitter(w, h, squareSize);
+        else
+            sampleLikeTextureFetch(w, h, squareSize);
+    }
+
+    const std::vector<int>& columns(bool fixedPoint) const
+    {
+        return fixedPoint ? fixedPointColumns : floatingPointColumns;
+    }
+
+    std::vector<std::vector<Row>> rowsByChunk;
+
+private:
+    std::vector<int> fixedPointColumns;
+    std::vector<int> floatingPointColumns;
+
+    // qt_scale_image_32bit: a 16.16 step from the first target pixel centre.
+    static std::vector<int> blitterSamples(int target, int source)
+    {
+        const qreal scale = source / qreal(target);
+        const int step = int(0x00010000 * scale);
+        quint32 at = quint32(qCeil(qreal(0.5) * scale * 65536) - 1);
+        std::vector<int> samples(std::size_t(target), 0);
+        for (int& sample : samples) {
+            sample = int(at >> 16);
+            at += quint32(step);
+        }
+        return samples;
+    }
+
+    void sampleLikeBlitter(int w, int h, int squareSize)
+    {
+        fixedPointColumns = blitterSamples(w, squareSize);
+        const std::vector<int> rows = blitterSamples(h, squareSize);
+        for (std::vector<Row>& chunkRows : rowsByChunk)
+            for (int y = 0; y < h; ++y)
+                chunkRows[std::size_t(y)].square = rows[std::size_t(y)];
+    }
+
+    // fetchTransformed: the inverse of the stretch, nudged by 1/65536 as QSpanData::setupMatrix
+    // does, in 16.16 fixed point while the matrix and the chunk's coordinates allow it.
+    void sampleLikeTextureFetch(int w, int h, int squareSize)
+    {
+        QTransform stretch;
+        stretch.scale(w / qreal(squareSize), h / qreal(squareSize));
+        QTransform nudge;
+        nudge.translate(1.0 / 65536, 1.0 / 65536);
+        const QTransform inv = (nudge * stretch).inverted();
+        const qreal f1 = inv.m11() * inv.m11() + inv.m21() * inv.m21();
+        const qreal f2 = inv.m12() * inv.m12() + inv.m22() * inv.m22();
+        const bool fastMatrix = f1 < 1e4 && f2 < 1e4 && f1 > (1.0 / 65536) && f2 > (1.0 / 65536) &&
+                                qAbs(inv.dx()) < 1e4 && qAbs(inv.dy()) < 1e4;
+        constexpr qreal fixedScale = 65536;
+        const auto clampToSquare = [squareSize](int v) { return std::clamp(v, 0, squareSize - 1); };
+        fixedPointColumns.resize(std::size_t(w));
+        floatingPointColumns.resize(std::size_t(w));
+        for (int x0 = 0, chunk = 0; x0 < w; x0 += RasterChunk, ++chunk) {
+            const int length = std::min(RasterChunk, w - x0);
+            const qreal cx = x0 + qreal(0.5);
+            const int step = int(inv.m11() * fixedScale);
+            for (int y = 0; y < h; ++y) {
+                const qreal cy = y + qreal(0.5);
+                const qreal tx = inv.m21() * cy + inv.m11() * cx + inv.dx();
+                const qreal ty = inv.m22() * cy + inv.m12() * cx + inv.dy();
+                const qreal fx = tx * fixedScale;
+                const qreal fy = ty * fixedScale;
+                const qreal fxEnd = fx + std::trunc(inv.m11() * fixedScale) * length;
+                const qreal fyEnd = fy + std::trunc(inv.m12() * fixedScale) * length;
+                const bool fixedPoint = fastMatrix && std::min({fx, fy, fxEnd, fyEnd}) >= INT_MIN &&
+                                        std::max({fx, fy, fxEnd, fyEnd}) <= INT_MAX;
+                Row& row = rowsByChunk[std::size_t(chunk)][std::size_t(y)];
+                row.fixedPoint = fixedPoint;
+                row.square = clampToSquare(fixedPoint ? int(fy) >> 16 : qFloor(ty));
+                if (y > 0)
+                    continue;
+                // Along a row only x changes, so each chunk's two column maps are computed once;
+                // the fixed-point one only where its coordinates fit an int.
+                const bool columnsFit =
+                    std::min(fx, fxEnd) >= INT_MIN && std::max(fx, fxEnd) <= INT_MAX;
+                int fixedAt = columnsFit ? int(fx) : 0;
+                qreal floatingAt = tx;
+                for (int x = x0; x < x0 + length; ++x) {
+                    fixedPointColumns[std::size_t(x)] = clampToSquare(fixedAt >> 16);
+                    floatingPointColumns[std::size_t(x)] = clampToSquare(qFloor(floatingAt));
+                    if (columnsFit)
+                        fixedAt += step;
+                    floatingAt += inv.m11();
+                }
+            }
+        }
+    }
+};
+
+} // namespace
+
+QImage vignetteImage(QImage& image, int radius, int opacity, QColor colour)
+{
+    image = wordImage(image);
+    if (image.isNull())
+        return image;
+    const int w = image.width();
+    const int h = image.height();
+    const int squareSize = std::max(w, h);
+    const QImage::Format format = image.format();
+    const int centre = squareSize / 2;
+    const qint64 gradientRadius = qint64(radius) * squareSize / 100;
+    const QGradientStops stops = vignetteStops(colour);
+
+    const std::vector<QRgb> values = squareValues(format, stops, opacity);
+    // A gradient of radius 0 paints transparent black: the same painting on one pixel shows
+    // what the square then holds.
+    QRadialGradient degenerateGradient(QPointF(0.5, 0.5), 0, QPointF(0.5, 0.5));
+    degenerateGradient.setStops(stops);
+    const QRgb degenerate =
+        rowWords(paintedLikeSquare(QSize(1, 1), format, degenerateGradient, opacity), 0)[0];
+    RadialPositions positions(squareSize, centre, double(gradientRadius),
+                              format == QImage::Format_ARGB32);
+    const StretchSampling sampling(w, h, squareSize, format);
+
+    // Bands of square values, drawn unstretched: the blend per pixel is the one the stretched
+    // drawing would make with the same square pixel.
+    constexpr int BandRows = 32;
+    const QImage::Format bandFormat =
+        format == QImage::Format_ARGB32 ? format : QImage::Format_ARGB32_Premultiplied;
+    QImage band(w, std::min(BandRows, h), bandFormat);
+    if (band.isNull())
+        return image;
+    QPainter painter(&image);
+    for (int y0 = 0; y0 < h; y0 += BandRows) {
+        const int rows = std::min(BandRows, h - y0);
+        for (int r = 0; r < rows; ++r) {
+            QRgb* out = rowWords(band, r);
+            for (int x0 = 0, chunk = 0; x0 < w; x0 += RasterChunk, ++chunk) {
+                const int x1 = std::min(w, x0 + RasterChunk);
+                const StretchSampling::Row sample =
+                    sampling.rowsByChunk[std::size_t(chunk)][std::size_t(y0 + r)];
+                const std::uint16_t* row = positions.row(sample.square);
+                if (!row) {
+                    std::fill(out + x0, out + x1, degenerate);
+                    continue;
+                }
+                const std::vector<int>& columns = sampling.columns(sample.fixedPoint);
+                for (int x = x0; x < x1; ++x)
+                    out[x] = values[row[columns[std::size_t(x)]]];
+            }
+        }
+        painter.drawImage(QPoint(0, y0), band, QRect(0, 0, w, rows));
+    }
+    painter.end();
+    return image;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Histogram optimizer
+
+QImage optimizeHistogram(QImage& image, int highClip, int lowClip)
+{
+    const QImage source = wordImage(image);
+    const int w = source.width();
+    const int h = source.height();
+    QImage result(w, h, QImage::Format_ARGB32);
+    if (result.isNull())
+        return result;
+
+    // The levels come from the red channel alone.
+    std::array<qint64, 256> histogram{};
+    for (int y = 0; y < h; ++y) {
+        const QRgb* line = rowWords(source, y);
+        for (int x = 0; x < w; ++x)
+            ++histogram[(line[x] >> 16) & 255];
+    }
+    const qint64 n = qint64(w) * h;
+    // The clip parameters are halved: a parameter of 2 clips one percent of the pixels.
+    const auto clipCount = [n](int clip) {
+        return qint64(double(n) * std::min(clip * 0.5, 100.0) / 100);
+    };
+    const qint64 lowCount = clipCount(lowClip);
+    const qint64 highCount = clipCount(highClip);
+    int low = 256;
+    for (qint64 i = 0, sum = 0; i < 256; ++i) {
+        sum += histogram[std::size_t(i)];
+        if (sum > lowCount) {
+            low = int(i);
+            break;
+        }
+    }
+    int high = -1;
+    for (qint64 i = 255, sum = 0; i >= 0; --i) {
+        sum += histogram[std::size_t(i)];
+        if (sum > highCount) {
+            high = int(i);
+            break;
+        }
+    }
+
+    std::array<QRgb, 256> table{};
+    if (low < high) {
+        for (int k = 0; k < high - low; ++k)
+            table[std::size_t(low + k)] = QRgb(k * 256.0 / (high - low));
+        std::fill(table.begin() + high, table.end(), 255);
+    } else if (low < 256) {
+        std::fill(table.begin() + low, table.end(), 255);
+    }
+
+    // Rebuilt from the three colour channels, so the result is opaque.
+    for (int y = 0; y < h; ++y) {
+        const QRgb* line = rowWords(source, y);
+        QRgb* out = rowWords(result, y);
+        for (int x = 0; x < w; ++x) {
+            const QRgb word = line[x];
+            out[x] = 0xff000000 | table[(word >> 16) & 255] << 16 | table[(word >> 8) & 255] << 8 |
+                     table[word & 255];
+        }
+    }
+    return result;
+}
+
+} // namespace OrkGraphX
