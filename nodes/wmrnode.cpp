@@ -91,7 +91,7 @@ WMRNode::WMRNode(QWidget* parent)
     addRow(form, tr("Position:"), newRowBox({directions, xOffsetBox, yOffsetBox}), bothModes,
            false);
     addRow(form, tr("Expand:"), expandBox, logoMode, false);
-    updateRows();
+    updateRows(textMode);
 
     connect(kindCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &WMRNode::slotModeChanged);
@@ -210,9 +210,9 @@ bool WMRNode::openLogoFile(const QString& fileName)
     return true;
 }
 
-void WMRNode::slotModeChanged(int /*mode*/)
+void WMRNode::slotModeChanged(int mode)
 {
-    updateRows();
+    updateRows(mode);
     emit parametersChanged();
 }
 
@@ -232,7 +232,7 @@ void WMRNode::slotWMRBrowse()
 void WMRNode::slotShrinkClicked(bool checked)
 {
     compact = checked;
-    updateRows();
+    updateRows(kindCombo->currentIndex());
     emit parametersChanged();
 }
 
@@ -254,9 +254,8 @@ QWidget* WMRNode::newRowBox(std::initializer_list<QWidget*> widgets)
     return box;
 }
 
-void WMRNode::updateRows()
+void WMRNode::updateRows(int mode)
 {
-    const int mode = kindCombo->currentIndex();
     for (const Row& row : qAsConst(rows)) {
         const bool visible =
             (row.mode == bothModes || row.mode == mode) && (!compact || row.essential);

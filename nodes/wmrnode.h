@@ -74,7 +74,7 @@ private:
 
     void addRow(QFormLayout* form, const QString& label, QWidget* field, int mode, bool essential);
     QWidget* newRowBox(std::initializer_list<QWidget*> widgets);
-    void updateRows();
+    void updateRows(int mode);
 
     QComboBox* kindCombo = nullptr;
     QPushButton* shrinkButton = nullptr;
