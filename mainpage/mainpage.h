@@ -5,6 +5,13 @@
 #include <QList>
 #include <QUrl>
 
+class Creator;
+class FlowPanel;
+class NodesOptionsPanel;
+class QMenuBar;
+class QPushButton;
+class Representor;
+
 class MainPage : public QFrame
 {
     Q_OBJECT
@@ -12,6 +19,23 @@ class MainPage : public QFrame
 public:
     explicit MainPage(QWidget* parent = nullptr);
 
+    NodesOptionsPanel* nodesOptionsPanel() const { return optionsPanel; }
+    Creator* creator() const { return photoSide; }
+    Representor* representor() const { return resultSide; }
+    FlowPanel* flowPanel() const { return flow; }
+
 public slots:
+    // Photos from the drop window, a second instance or the command line: a non-empty list
+    // replaces the photo list; the page is shown in any case.
     void slotFilesDropped(const QList<QUrl>& urls);
+    // The output settings, modal.
+    void slotShowSettings();
+
+private:
+    NodesOptionsPanel* optionsPanel = nullptr;
+    Creator* photoSide = nullptr;
+    Representor* resultSide = nullptr;
+    FlowPanel* flow = nullptr;
+    QMenuBar* menuBar = nullptr;
+    QPushButton* settingsButton = nullptr;
 };

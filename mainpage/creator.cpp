@@ -1,0 +1,102 @@
+#include "creator.h"
+
+#include "creatordroparea.h"
+#include "creatoriconsview.h"
+#include "nodesoptionspanel.h"
+#include "photofiles.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QHBoxLayout>
+#include <QImageReader>
+#include <QLabel>
+#include <QMimeData>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+Creator::Creator(NodesOptionsPanel* optionsPanel, QWidget* parent)
+    : QWidget(parent)
+    , optionsPanel(optionsPanel)
+{
+    setAcceptDrops(true);
+    setFixedWidth(360);
+
+    area = new CreatorDropArea(this);
+    icons = new CreatorIconsView(this);
+    icons->setFixedSize(area->size());
+    icons->hide();
+
+    connect(area, &CreatorDropArea::updateItems, icons, &CreatorIconsView::slotUpdateItems);
+    connect(area, &CreatorDropArea::indexChanged, icons, &CreatorIconsView::slotSetCurrentIndex);
+    connect(area, &CreatorDropArea::dropped, this, &Creator::slotDropped);
+    connect(icons, &CreatorIconsView::itemClicked, area, &CreatorDropArea::slotItemClicked);
+    connect(optionsPanel, &NodesOptionsPanel::imageChanged, this, &Creator::imageChanged);
+    connect(optionsPanel, &NodesOptionsPanel::realPreview, this, &Creator::realPreview);
+
+    auto* title = new QLabel(tr("<H2><CENTER>Original</CENTER></H2>"), this);
+    iconViewButton = new QPushButton(this);
+    iconViewButton->setObjectName("IconViewButton");
+    iconViewButton->setToolTip(tr("Switch between the photo and the icon list"));
+    iconViewButton->setFlat(true);
+    iconViewButton->setCheckable(true);
+    iconViewButton->setChecked(true);
+    connect(iconViewButton, &QPushButton::clicked, this, &Creator::slotShowModeChanged);
+
+    auto* header = new QHBoxLayout;
+    header->setContentsMargins(0, 0, 0, 0);
+    header->setSpacing(0);
+    header->addWidget(title, 1);
+    header->addWidget(iconViewButton);
+
+    // No side margins: the 360 wide area fills the 360 wide side exactly.
+    auto* body = new QVBoxLayout(this);
+    body->setContentsMargins(0, 3, 0, 3);
+    body->setSpacing(0);
+    body->addLayout(header);
+    body->addWidget(area);
+    body->addWidget(icons);
+    body->addStretch(1);
+}
+
+void Creator::slotDropped(bool loaded)
+{
+    Q_UNUSED(loaded)
+    const QString path = area->currentPath();
+    QImage photo = PhotoFiles::read(path);
+    photo.setDevicePixelRatio(1.0);
+    optionsPanel->setImage(photo);
+    emit formatChanged(QString::fromLatin1(QImageReader::imageFormat(path)));
+}
+
+void Creator::slotShowModeChanged(bool checked)
+{
+    area->setVisible(checked);
+    icons->setVisible(!checked);
+}
+
+void Creator::slotNext()
+{
+    area->slotNext();
+}
+
+void Creator::slotPrevious()
+{
+    area->slotPreviuos();
+}
+
+void Creator::slotGotoFirst()
+{
+    area->slotGotoFirst();
+}
+
+void Creator::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (CreatorDropArea::canTake(event->mimeData()))
+        event->acceptProposedAction();
+}
+
+void Creator::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    area->setPhotos(event->mimeData()->urls());
+}

@@ -1,0 +1,48 @@
+// The photo side of the main page: the "Original" heading, the drop area or the icon list,
+// and the hand-over of the current photo to the options panel.
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <QWidget>
+
+class CreatorDropArea;
+class CreatorIconsView;
+class NodesOptionsPanel;
+class QPushButton;
+
+class Creator : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Creator(NodesOptionsPanel* optionsPanel, QWidget* parent = nullptr);
+
+    CreatorDropArea* dropArea() const { return area; }
+    CreatorIconsView* iconsView() const { return icons; }
+
+signals:
+    void imageChanged(const QImage& image);
+    void formatChanged(const QString& format);
+    void realPreview();
+
+public slots:
+    // Loads the current photo whole and hands it to the options panel, which runs the flow.
+    void slotDropped(bool loaded);
+    // Checked shows the single large photo, unchecked the icon list.
+    void slotShowModeChanged(bool checked);
+    void slotNext();
+    void slotPrevious();
+    void slotGotoFirst();
+
+protected:
+    // Photos dropped beside the drop area, on the icon list for example, are taken in as well.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    NodesOptionsPanel* optionsPanel = nullptr;
+    CreatorDropArea* area = nullptr;
+    CreatorIconsView* icons = nullptr;
+    QPushButton* iconViewButton = nullptr;
+};

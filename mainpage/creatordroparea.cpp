@@ -1,0 +1,153 @@
+#include "creatordroparea.h"
+
+#include "commondata.h"
+#include "photofiles.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QMimeData>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+CreatorDropArea::CreatorDropArea(QWidget* parent)
+    : PhotoLabel(parent)
+{
+    setObjectName("DropArea");
+    setFixedSize(360, 360);
+    setAcceptDrops(true);
+    setText(tr("<H2>Drop the photos here</H2>"));
+    setBackground(QPixmap(":/droparea.png"));
+
+    openButton = new QPushButton(QIcon(":/openfiles.png"), tr("Click to open the photos"), this);
+    openButton->setObjectName("PushButton");
+    openButton->setFixedHeight(32);
+    column->addWidget(openButton);
+
+    connect(openButton, &QPushButton::clicked, this, &CreatorDropArea::slotOpenClicked);
+    connect(nextButton, &QPushButton::clicked, this, &CreatorDropArea::slotNext);
+    connect(previousButton, &QPushButton::clicked, this, &CreatorDropArea::slotPreviuos);
+}
+
+bool CreatorDropArea::canTake(const QMimeData* data)
+{
+    return data->hasFormat("text/uri-list");
+}
+
+void CreatorDropArea::setPhotos(const QList<QUrl>& newUrls)
+{
+    const QList<QUrl> expanded = PhotoFiles::expandFolders(newUrls);
+    if (expanded.isEmpty())
+        return;
+    urls = expanded;
+    index = 0;
+    path = urls.first().toLocalFile();
+    openButton->hide();
+    setBackground({});
+    showCurrentPhoto();
+    setText({});
+    emit dropped(true);
+    refreshCounter();
+    emit updateItems(urls);
+}
+
+void CreatorDropArea::slotOpenClicked()
+{
+    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Open the photos"));
+    if (files.isEmpty())
+        return;
+    QList<QUrl> chosen;
+    for (const QString& file : files)
+        chosen << QUrl::fromLocalFile(file);
+    setPhotos(chosen);
+}
+
+bool CreatorDropArea::stepLoads() const
+{
+    return sender() != nullptr || !isHidden();
+}
+
+void CreatorDropArea::slotNext()
+{
+    if (urls.isEmpty())
+        return;
+    moveTo(index + 1 < urls.size() ? index + 1 : 0);
+    if (stepLoads())
+        emit dropped(true);
+    emit indexChanged(index);
+}
+
+void CreatorDropArea::slotPreviuos()
+{
+    if (urls.isEmpty())
+        return;
+    moveTo(index > 0 ? index - 1 : urls.size() - 1);
+    if (stepLoads())
+        emit dropped(true);
+    emit indexChanged(index);
+}
+
+void CreatorDropArea::slotGotoFirst()
+{
+    if (urls.isEmpty())
+        return;
+    moveTo(0);
+    emit dropped(true);
+    emit indexChanged(0);
+}
+
+void CreatorDropArea::slotItemClicked(int i)
+{
+    if (i < 0 || i >= urls.size())
+        return;
+    moveTo(i);
+    emit dropped(true);
+}
+
+void CreatorDropArea::moveTo(int newIndex)
+{
+    index = newIndex;
+    path = urls.at(index).toLocalFile();
+    refreshCounter();
+    showCurrentPhoto();
+}
+
+void CreatorDropArea::showCurrentPhoto()
+{
+    const QSize box(qRound(width() * 2.0), qRound(height() * 2.0));
+    setPicture(QPixmap::fromImage(PhotoFiles::readFitted(path, box)));
+}
+
+void CreatorDropArea::refreshCounter()
+{
+    infoLabel->setText("<CENTER>" + positionText(index, urls.size()) + "</CENTER>");
+    CommonData* data = CommonData::instance();
+    data->photoCount = urls.size();
+    data->currentIndex = index;
+    data->displayName = CommonData::displayNameOf(path);
+}
+
+void CreatorDropArea::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (canTake(event->mimeData()))
+        event->acceptProposedAction();
+}
+
+void CreatorDropArea::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    setPhotos(event->mimeData()->urls());
+}
+
+void CreatorDropArea::enterEvent(QEvent* event)
+{
+    PhotoLabel::enterEvent(event);
+    if (urls.size() > 1)
+        setStepControlsVisible(true);
+}
+
+void CreatorDropArea::leaveEvent(QEvent* event)
+{
+    PhotoLabel::leaveEvent(event);
+    setStepControlsVisible(false);
+}

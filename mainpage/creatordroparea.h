@@ -1,0 +1,62 @@
+// The "Original" photo area: takes in the photo list (drop, file dialog or main page), keeps the
+// current position and shows the current photo.
+#pragma once
+
+#include "photolabel.h"
+
+#include <QList>
+#include <QUrl>
+
+class QMimeData;
+
+class CreatorDropArea : public PhotoLabel
+{
+    Q_OBJECT
+
+public:
+    explicit CreatorDropArea(QWidget* parent = nullptr);
+
+    // Only a photo list can be dropped.
+    static bool canTake(const QMimeData* data);
+
+    // Takes in a new photo list: folders stand for the photos inside them, the first photo
+    // becomes current and is shown. A list that holds no photo at all changes nothing.
+    void setPhotos(const QList<QUrl>& urls);
+    QList<QUrl> photos() const { return urls; }
+    int currentIndex() const { return index; }
+    QString currentPath() const { return path; }
+
+signals:
+    // Asks for the current photo to be loaded; always true.
+    void dropped(bool loaded);
+    void indexChanged(int index);
+    void updateItems(const QList<QUrl>& urls);
+
+public slots:
+    void slotOpenClicked();
+    // Next and previous wrap round. Called directly (not through a signal) while the icon list
+    // is shown instead of this area, they leave the loading to the icon list.
+    void slotNext();
+    void slotPreviuos();
+    void slotGotoFirst();
+    // The icon list chose the photo, so it is not told back.
+    void slotItemClicked(int i);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void enterEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    void moveTo(int newIndex);
+    void showCurrentPhoto();
+    void refreshCounter();
+    // After a step asked for by a signal or while this area is the one shown.
+    bool stepLoads() const;
+
+    QList<QUrl> urls;
+    int index = 0;
+    QString path;
+    QPushButton* openButton = nullptr;
+};

@@ -1,0 +1,96 @@
+#include "creatoriconsview.h"
+
+#include "commondata.h"
+#include "itemsmodel.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace {
+
+// A cell holds the thumbnail above the photo's name; the model's 48 x 48 is the thumbnail.
+class IconCellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    static constexpr int cellWidth = 84;
+    static constexpr int cellHeight = 76;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        Q_UNUSED(option)
+        Q_UNUSED(index)
+        return QSize(cellWidth, cellHeight);
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        cell.text.clear();
+        cell.icon = {};
+        cell.features &= ~QStyleOptionViewItem::HasDecoration;
+        const QWidget* widget = option.widget;
+        QStyle* style = widget ? widget->style() : QApplication::style();
+        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, widget);
+
+        const QSize thumbnailSize = index.data(Qt::SizeHintRole).toSize();
+        const QImage thumbnail = index.data(Qt::DecorationRole).value<QImage>();
+        const QRect area = option.rect.adjusted(2, 4, -2, -2);
+        const QRect thumbnailRect(area.left() + (area.width() - thumbnailSize.width()) / 2,
+                                  area.top(), thumbnailSize.width(), thumbnailSize.height());
+        if (!thumbnail.isNull())
+            painter->drawImage(thumbnailRect, thumbnail);
+
+        const QRect textRect(area.left(), thumbnailRect.bottom() + 3, area.width(),
+                             area.bottom() - thumbnailRect.bottom() - 3);
+        const QString name = index.data(Qt::DisplayRole).toString();
+        painter->setPen(option.palette.color(
+            option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text));
+        painter->drawText(textRect, Qt::AlignHCenter | Qt::AlignTop,
+                          option.fontMetrics.elidedText(name, Qt::ElideMiddle, textRect.width()));
+    }
+};
+
+} // namespace
+
+CreatorIconsView::CreatorIconsView(QWidget* parent)
+    : QListView(parent)
+{
+    setObjectName("CreatorIconsView");
+    setViewMode(QListView::IconMode);
+    setMovement(QListView::Static);
+    setResizeMode(QListView::Adjust);
+    setUniformItemSizes(true);
+    setSpacing(2);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setItemDelegate(new IconCellDelegate(this));
+    setModel(CommonData::instance()->itemsModel());
+    connect(selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &CreatorIconsView::slotCurrentItem);
+}
+
+void CreatorIconsView::slotUpdateItems(const QList<QUrl>& urls)
+{
+    quiet = true;
+    CommonData::instance()->itemsModel()->setPhotos(urls);
+    slotSetCurrentIndex(0);
+    quiet = false;
+}
+
+void CreatorIconsView::slotSetCurrentIndex(int row)
+{
+    setCurrentIndex(model()->index(row, 0));
+}
+
+void CreatorIconsView::slotCurrentItem(const QModelIndex& current, const QModelIndex& previous)
+{
+    Q_UNUSED(previous)
+    // While hidden the list only follows the drop area, which loads the photo itself.
+    if (!quiet && current.isValid() && !isHidden())
+        emit itemClicked(current.row());
+}
