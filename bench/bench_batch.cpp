@@ -1,0 +1,164 @@
+// Where the time of a batch run goes, photo by photo: reading, conversion, each operation,
+// encoding and writing, as medians; then the engine's own run over the same photos.
+//   bench_batch [PHOTO_FOLDER] [FLOW_FILE] [FORMAT] [QUALITY]
+//   (defaults: /tmp/pelodine-corpus/photos, Resize 50 % and a text Watermark, JPEG, 90)
+#include "batchengine.h"
+#include "flowfile.h"
+#include "nodecatalogue.h"
+#include "outputnaming.h"
+#include "photofiles.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QImageWriter>
+#include <QMap>
+#include <QSaveFile>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+// The peer benchmark's job: half the size, then white "Watermark" on a black box.
+const char defaultFlow[] = "<OperationsFlow>\n"
+                           " <Operation name=\"Resize\" index=\"0\">\n"
+                           "  <Parameters>\n"
+                           "   <Active>yes</Active>\n"
+                           "   <Mode>0</Mode>\n"
+                           "   <Width>50</Width>\n"
+                           "   <Height>50</Height>\n"
+                           "  </Parameters>\n"
+                           " </Operation>\n"
+                           " <Operation name=\"Watermark\" index=\"1\">\n"
+                           "  <Parameters>\n"
+                           "   <Active>yes</Active>\n"
+                           "   <Mode>0</Mode>\n"
+                           "   <Size>40</Size>\n"
+                           "   <Text>Watermark</Text>\n"
+                           "   <Position>BottomRight</Position>\n"
+                           "   <Transparency>25</Transparency>\n"
+                           "   <Color>#ffffff</Color>\n"
+                           "   <Background>#000000</Background>\n"
+                           "   <BackgroundEnabled>yes</BackgroundEnabled>\n"
+                           "   <Font>DejaVu Sans</Font>\n"
+                           "  </Parameters>\n"
+                           " </Operation>\n"
+                           "</OperationsFlow>\n";
+
+double median(QVector<double> values)
+{
+    if (values.isEmpty())
+        return 0;
+    std::sort(values.begin(), values.end());
+    const int middle = values.size() / 2;
+    return values.size() % 2 ? values.at(middle) : (values.at(middle - 1) + values.at(middle)) / 2;
+}
+
+double sum(const QVector<double>& values)
+{
+    return std::accumulate(values.begin(), values.end(), 0.0);
+}
+
+// Milliseconds spent in step.
+template <typename Step> double timed(Step step)
+{
+    QElapsedTimer timer;
+    timer.start();
+    step();
+    return timer.nsecsElapsed() / 1e6;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName("Qubrast");
+    QApplication::setApplicationName("Pelodine");
+    QTextStream out(stdout);
+
+    const QStringList arguments = QCoreApplication::arguments();
+    const QString folder = arguments.value(1, "/tmp/pelodine-corpus/photos");
+    QString flow = defaultFlow;
+    if (arguments.size() > 2 && !FlowFile::readFlowFile(arguments.at(2), &flow)) {
+        out << "cannot read " << arguments.at(2) << Qt::endl;
+        return 1;
+    }
+    const QString format = arguments.value(3, "JPEG");
+    const int quality = arguments.value(4, "90").toInt();
+    const BatchOperations operations = FlowFile::operationsFromText(flow);
+
+    QStringList photos;
+    const QList<QUrl> found = PhotoFiles::expandFolders({QUrl::fromLocalFile(folder)});
+    for (const QUrl& url : found)
+        photos << url.toLocalFile();
+    if (photos.isEmpty()) {
+        out << "no photos in " << folder << Qt::endl;
+        return 1;
+    }
+    QTemporaryDir target;
+
+    // One step after the other on this thread, as a run without reading ahead would go.
+    QStringList steps{"read (decode, EXIF orientation)", "convert to ARGB32"};
+    for (const auto& operation : operations)
+        steps << "operation " + operation.first;
+    steps << "encode " + format << "write file";
+    QMap<QString, QVector<double>> times;
+    for (const QString& photo : photos) {
+        QImage image;
+        int step = 0;
+        times[steps.at(step++)] << timed([&] { image = PhotoFiles::read(photo); });
+        times[steps.at(step++)] << timed(
+            [&] { image = std::move(image).convertToFormat(QImage::Format_ARGB32); });
+        for (const auto& operation : operations)
+            times[steps.at(step++)]
+                << timed([&] { image = applyOperation(operation.first, image, operation.second); });
+        QBuffer encoded;
+        times[steps.at(step++)] << timed([&] {
+            encoded.open(QIODevice::WriteOnly);
+            QImageWriter writer(&encoded, format.toLatin1());
+            writer.setQuality(quality);
+            writer.write(image);
+        });
+        times[steps.at(step++)] << timed([&] {
+            QSaveFile file(target.path() + "/" + OutputNaming::baseName(photo));
+            file.open(QIODevice::WriteOnly);
+            file.write(encoded.data());
+            file.commit();
+        });
+    }
+    double total = 0;
+    for (const QString& step : steps)
+        total += sum(times.value(step));
+    out << photos.size() << " photos from " << folder << ", " << format << " " << quality << "\n\n";
+    out << "| step | median ms | mean ms | share |\n|---|---:|---:|---:|\n";
+    for (const QString& step : steps) {
+        const QVector<double>& values = times.value(step);
+        out << "| " << step << " | " << QString::number(median(values), 'f', 1) << " | "
+            << QString::number(sum(values) / values.size(), 'f', 1) << " | "
+            << QString::number(100 * sum(values) / total, 'f', 0) << " % |\n";
+    }
+    out << "| one after the other | | " << QString::number(total / photos.size(), 'f', 1) << " | "
+        << QString::number(1000 * photos.size() / total, 'f', 2) << " photos/s |\n\n";
+
+    // The engine as the batch runs it: the next photo is read while this one is processed.
+    const double engineMs = timed([&] {
+        BatchEngine engine(photos, operations, format, quality);
+        const QString extension = "." + OutputNaming::extension(format);
+        for (int i = 0; i < engine.count(); ++i) {
+            const BatchEngine::Photo photo = engine.process(i);
+            engine.write(photo.image,
+                         target.path() + "/" + OutputNaming::baseName(photos.at(i)) + extension);
+        }
+    });
+    out << "engine run (reading one photo ahead): " << QString::number(engineMs / 1000, 'f', 2)
+        << " s, " << QString::number(1000 * photos.size() / engineMs, 'f', 2) << " photos/s"
+        << Qt::endl;
+    return 0;
+}
