@@ -17,6 +17,7 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPropertyAnimation>
 #include <QPushButton>
@@ -43,6 +44,10 @@ private slots:
     void filesDropped();
     void livePreview_data();
     void livePreview();
+    void smallViewHover_data();
+    void smallViewHover();
+    void smallViewStepsThePhotoSide_data();
+    void smallViewStepsThePhotoSide();
     void largeViewRunsFullSize();
     void largeViewSteps();
     void largeViewSinglePhotoHasNoSteps();
@@ -206,6 +211,76 @@ void TestMainPage::livePreview()
     QCOMPARE(page->representor()->preview()->picture().size(), shown);
     // With an empty flow the result is the reduced photo itself.
     QCOMPARE(results.first().at(0).value<QImage>().pixel(10, 10), colour);
+}
+
+void TestMainPage::smallViewHover_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<int>("steps");
+    QTest::addColumn<bool>("shown");
+    QTest::addColumn<QString>("info");
+
+    QTest::newRow("one photo") << QStringList{"wide.png"} << 0 << false << "<H1>INFO</H1>";
+    QTest::newRow("second of two")
+        << QStringList{"wide.png", "tall.png"} << 1 << true << "<H1>2 of 2</H1>";
+    QTest::newRow("first of three")
+        << QStringList{"wide.png", "tall.png", "upright.png"} << 0 << true << "<H1>1 of 3</H1>";
+}
+
+void TestMainPage::smallViewHover()
+{
+    QFETCH(QStringList, files);
+    QFETCH(int, steps);
+    QFETCH(bool, shown);
+    QFETCH(QString, info);
+
+    QList<QUrl> urls;
+    for (const QString& file : files)
+        urls << photo(file);
+    page->slotFilesDropped(urls);
+    for (int i = 0; i < steps; ++i)
+        page->creator()->slotNext();
+    ImagePreview* preview = page->representor()->preview();
+    auto* next = preview->findChild<QPushButton*>("NextImageButton");
+    auto* previous = preview->findChild<QPushButton*>("PreviousImageButton");
+    auto* infoLabel = preview->findChild<QLabel*>();
+    QVERIFY(next && previous && infoLabel);
+
+    QEvent enter(QEvent::Enter);
+    QCoreApplication::sendEvent(preview, &enter);
+    QCOMPARE(!next->isHidden(), shown);
+    QCOMPARE(!previous->isHidden(), shown);
+    QCOMPARE(!infoLabel->isHidden(), shown);
+    QCOMPARE(infoLabel->text(), info);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(preview, &leave);
+    QVERIFY(next->isHidden() && previous->isHidden() && infoLabel->isHidden());
+}
+
+void TestMainPage::smallViewStepsThePhotoSide_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QSize>("result");
+
+    // Three photos: wide 1200 x 900, tall 300 x 2000, upright 900 x 1200; previewed at most
+    // 360 wide.
+    QTest::newRow("next") << "NextImageButton" << 1 << QSize(300, 2000);
+    QTest::newRow("previous wraps to the last") << "PreviousImageButton" << 2 << QSize(270, 360);
+}
+
+void TestMainPage::smallViewStepsThePhotoSide()
+{
+    QFETCH(QString, button);
+    QFETCH(int, index);
+    QFETCH(QSize, result);
+
+    page->slotFilesDropped({photo("wide.png"), photo("tall.png"), photo("upright.png")});
+    QSignalSpy results(page->nodesOptionsPanel(), &NodesOptionsPanel::imageChanged);
+    page->representor()->preview()->findChild<QPushButton*>(button)->click();
+    QCOMPARE(page->creator()->dropArea()->currentIndex(), index);
+    QCOMPARE(results.count(), 1);
+    QCOMPARE(results.first().at(0).value<QImage>().size(), result);
 }
 
 void TestMainPage::largeViewRunsFullSize()
