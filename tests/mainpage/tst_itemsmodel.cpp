@@ -15,7 +15,6 @@ class TestItemsModel : public QObject
 private slots:
     void displayName_data();
     void displayName();
-    void sizeHint();
     void outsideTheListIsEmpty_data();
     void outsideTheListIsEmpty();
     void fitIntoThumbnail_data();
@@ -74,13 +73,6 @@ void TestItemsModel::displayName()
     ItemsModel model;
     model.setPhotos({QUrl::fromLocalFile("/photos/" + fileName)});
     QCOMPARE(model.data(model.index(0), Qt::DisplayRole).toString(), shown);
-}
-
-void TestItemsModel::sizeHint()
-{
-    ItemsModel model;
-    model.setPhotos({QUrl::fromLocalFile("/photos/a.png")});
-    QCOMPARE(model.data(model.index(0), Qt::SizeHintRole).toSize(), QSize(48, 48));
 }
 
 void TestItemsModel::outsideTheListIsEmpty_data()
