@@ -22,8 +22,10 @@ run: build
 test: build
 	cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
 
+BENCHMARKS = bench_kernels bench_flow bench_preview bench_batch
+
 bench: build
-	$(BUILD_DIR)/bench/pelodine-bench
+	@for b in $(BENCHMARKS); do echo "== $$b"; QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/bench/$$b || exit 1; done
 
 install: build
 	cmake --install $(BUILD_DIR)
