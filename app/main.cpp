@@ -5,9 +5,10 @@
 #include "flowfile.h"
 #include "mainpage.h"
 #include "singleappcheck.h"
+#include "startup.h"
+#include "translationsmanager.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QTimer>
 
 namespace {
@@ -20,35 +21,6 @@ QString readResourceText(const QString& path)
     return QString::fromUtf8(file.readAll());
 }
 
-// The existing files among the program's arguments, as absolute paths.
-QStringList fileArguments(const QStringList& arguments)
-{
-    QStringList files;
-    for (int i = 1; i < arguments.size(); ++i) {
-        const QFileInfo info(arguments.at(i));
-        if (info.exists())
-            files << info.absoluteFilePath();
-    }
-    return files;
-}
-
-QList<QUrl> urlsFromMessage(const QString& message)
-{
-    QList<QUrl> urls;
-    const QStringList lines = message.split('\n', Qt::SkipEmptyParts);
-    for (const QString& line : lines)
-        urls << QUrl::fromLocalFile(line);
-    return urls;
-}
-
-QStringList helpSlides(const QString& language)
-{
-    QStringList slides;
-    for (int i = 1; i <= 11; ++i)
-        slides << QString(":/help/%1/slide%2.png").arg(language).arg(i);
-    return slides;
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
@@ -58,7 +30,7 @@ int main(int argc, char* argv[])
     // A second instance hands its files to the first and leaves; when nobody answers, the
     // segment is a crashed instance's leftover and this process takes over.
     auto* guard = new OrkTools::SingleAppCheck(OrkTools::SingleAppCheck::userKey("Pelodine"), app);
-    const QStringList files = fileArguments(QCoreApplication::arguments());
+    const QStringList files = Startup::fileArguments(QCoreApplication::arguments());
     if (guard->isRunning()) {
         if (guard->sendMessage(files.join('\n') + '\n')) {
             delete app;
@@ -80,10 +52,12 @@ int main(int argc, char* argv[])
     auto* mainPage = new MainPage;
     QObject::connect(app, &OrkWidgets::App::dockClicked, mainPage, &QWidget::showNormal);
 
-    QString language = app->language();
-    if (language != "en" && language != "de" && language != "ru")
-        language = "en";
-    app->setHelpSlides(helpSlides(language));
+    // The slides of the current language; languages without slides of their own get English.
+    app->setHelpSlides(Startup::helpSlides(app->language()));
+    // A language chosen in the menu brings its own slides with it.
+    QObject::connect(
+        app->translations(), &OrkWidgets::TranslationsManager::languageChanged, app,
+        [app](const QString& chosen) { app->setHelpSlides(Startup::helpSlides(chosen)); });
 
     mainPage->setWindowTitle(QCoreApplication::applicationName());
     auto* dropWidget = new OrkWidgets::DropWidget;
@@ -95,24 +69,20 @@ int main(int argc, char* argv[])
 
     app->setMainWidget(mainPage);
 
-    // Files from "Open with" or from a second instance open the main page; a second start
-    // without files only brings the visible window to the front.
-    const auto takeFiles = [mainPage, dropWidget](const QList<QUrl>& urls) {
+    // Photos and flows from "Open with" or from a second instance open the main page; a second
+    // start without files only brings the visible window to the front.
+    const auto takeFiles = [mainPage, dropWidget](const QString& lines) {
         QWidget* front = dropWidget->isVisible() ? static_cast<QWidget*>(dropWidget) : mainPage;
-        if (!urls.isEmpty()) {
+        if (Startup::openPaths(mainPage, lines)) {
             dropWidget->hide();
-            mainPage->slotFilesDropped(urls);
             front = mainPage;
         }
         front->raise();
         front->activateWindow();
     };
-    QObject::connect(guard, &OrkTools::SingleAppCheck::messageReceived, mainPage,
-                     [takeFiles](const QString& message) { takeFiles(urlsFromMessage(message)); });
+    QObject::connect(guard, &OrkTools::SingleAppCheck::messageReceived, mainPage, takeFiles);
     if (!files.isEmpty())
-        QTimer::singleShot(0, mainPage, [takeFiles, files] {
-            takeFiles(urlsFromMessage(files.join('\n')));
-        });
+        QTimer::singleShot(0, mainPage, [takeFiles, files] { takeFiles(files.join('\n')); });
 
     const int result = app->exec();
 

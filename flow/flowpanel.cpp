@@ -102,7 +102,8 @@ void FlowPanel::buildNodesMenu()
 {
     const QStringList names = factoryNodeNames();
     for (const QString& name : names) {
-        QAction* action = addMenu->addAction(iconForNodeName(name), name);
+        QAction* action = addMenu->addAction(iconForNodeName(name), displayNameForNodeName(name));
+        action->setData(name);
         connect(action, &QAction::triggered, this, &FlowPanel::slotAddNode);
     }
 }
@@ -135,8 +136,8 @@ BaseNode* FlowPanel::addNode(const QString& name)
     BaseNode* node = optionsPanel->createNode(name);
     if (!node)
         return nullptr;
-    const int position = tabBar->addTab(iconForNodeName(name), name);
-    tabBar->setTabToolTip(position, name);
+    const int position = tabBar->addTab(iconForNodeName(name), displayNameForNodeName(name));
+    tabBar->setTabToolTip(position, tabBar->tabText(position));
     nodes.insert(position, node);
 
     auto* thumbnail = new TabLabel(tabBar);
@@ -179,7 +180,7 @@ void FlowPanel::slotTabMoved(int from, int to)
 void FlowPanel::slotAddNode()
 {
     const auto* action = qobject_cast<QAction*>(sender());
-    if (action && addNode(action->text()))
+    if (action && addNode(action->data().toString()))
         emit flowChanged(nodes);
 }
 

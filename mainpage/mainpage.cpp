@@ -8,9 +8,13 @@
 #include "flowpanel.h"
 #include "nodesoptionspanel.h"
 #include "representor.h"
+#include "translationsmanager.h"
 
+#include <QActionGroup>
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -47,6 +51,7 @@ MainPage::MainPage(QWidget* parent)
     settingsButton->setFlat(true);
     menuBar->setCornerWidget(settingsButton, Qt::TopRightCorner);
     connect(settingsButton, &QPushButton::clicked, this, &MainPage::slotShowSettings);
+    buildMenus();
 
     auto* sides = new QHBoxLayout;
     sides->addStretch(1);
@@ -61,6 +66,64 @@ MainPage::MainPage(QWidget* parent)
     layout->addLayout(sides);
     layout->addWidget(optionsPanel);
     layout->addWidget(flow);
+}
+
+namespace {
+
+// Each language under its own name, so that anyone finds theirs whatever the current one is.
+const struct
+{
+    const char* code;
+    const char* name;
+} languages[] = {{"en", "English"}, {"de", "Deutsch"}, {"ru", "Русский"}};
+
+} // namespace
+
+void MainPage::buildMenus()
+{
+    OrkWidgets::App* app = OrkWidgets::App::instance();
+    // Languages the program has no texts for show in English.
+    const QString current = app ? app->language() : QString();
+
+    QMenu* languageMenu = menuBar->addMenu(tr("&Language"));
+    languageMenu->setEnabled(app != nullptr);
+    languageGroup = new QActionGroup(languageMenu);
+    for (const auto& language : languages) {
+        QAction* action = languageMenu->addAction(QString::fromUtf8(language.name));
+        action->setCheckable(true);
+        action->setData(QLatin1String(language.code));
+        languageGroup->addAction(action);
+        if (current == QLatin1String(language.code))
+            action->setChecked(true);
+    }
+    if (!languageGroup->checkedAction())
+        languageGroup->actions().constFirst()->setChecked(true);
+    connect(languageGroup, &QActionGroup::triggered, this,
+            [this](const QAction* action) { slotChooseLanguage(action->data().toString()); });
+
+    QMenu* helpMenu = menuBar->addMenu(tr("&Help"));
+    helpMenu->setEnabled(app != nullptr);
+    if (!app)
+        return;
+    helpMenu->addAction(tr("Show &Help"), app, &OrkWidgets::App::slotHelp);
+    helpMenu->addAction(tr("&About %1").arg(QCoreApplication::applicationName()), app,
+                        &OrkWidgets::App::slotAbout);
+}
+
+void MainPage::slotChooseLanguage(const QString& language)
+{
+    OrkWidgets::App* app = OrkWidgets::App::instance();
+    if (!app || language == app->language())
+        return;
+    // Installed at once, so the notice below already speaks the chosen language.
+    app->translations()->setLanguage(language);
+    auto* notice = new QMessageBox(QMessageBox::Information, QCoreApplication::applicationName(),
+                                   tr("The new language is used from the next start of %1.")
+                                       .arg(QCoreApplication::applicationName()),
+                                   QMessageBox::Ok, this);
+    notice->setObjectName("LanguageNotice");
+    notice->setAttribute(Qt::WA_DeleteOnClose);
+    notice->open();
 }
 
 void MainPage::slotFilesDropped(const QList<QUrl>& urls)

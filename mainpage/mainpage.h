@@ -8,6 +8,7 @@
 class Creator;
 class FlowPanel;
 class NodesOptionsPanel;
+class QActionGroup;
 class QMenuBar;
 class QPushButton;
 class Representor;
@@ -30,12 +31,18 @@ public slots:
     void slotFilesDropped(const QList<QUrl>& urls);
     // The output settings, modal.
     void slotShowSettings();
+    // Stores the language through the translations manager and says that the windows follow
+    // at the next start.
+    void slotChooseLanguage(const QString& language);
 
 private:
+    void buildMenus();
+
     NodesOptionsPanel* optionsPanel = nullptr;
     Creator* photoSide = nullptr;
     Representor* resultSide = nullptr;
     FlowPanel* flow = nullptr;
     QMenuBar* menuBar = nullptr;
     QPushButton* settingsButton = nullptr;
+    QActionGroup* languageGroup = nullptr;
 };

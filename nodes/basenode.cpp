@@ -10,7 +10,7 @@
 BaseNode::BaseNode(const QString& name, QWidget* parent)
     : QFrame(parent)
     , disabledPicture(":/DisabledNode.png")
-    , activeBox(new QGroupBox(name, this))
+    , activeBox(new QGroupBox(displayNameForNodeName(name), this))
     , iconLabel(new OrkWidgets::ClickableImageLabel(this))
     , nodeName(name)
     , optionsLayout(new QVBoxLayout)

@@ -17,7 +17,8 @@ class BCSNode : public KeyedNode<BCSNode, BCSValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Brightness, Contrast, Saturation";
+    static constexpr const char* Name =
+        QT_TRANSLATE_NOOP("NodeName", "Brightness, Contrast, Saturation");
 
     explicit BCSNode(QWidget* parent = nullptr);
 

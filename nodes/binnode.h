@@ -15,7 +15,7 @@ class BINNode : public KeyedNode<BINNode, BINValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Binarization";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Binarization");
 
     explicit BINNode(QWidget* parent = nullptr);
 

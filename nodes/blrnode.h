@@ -15,7 +15,7 @@ class BLRNode : public KeyedNode<BLRNode, BLRValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Blur";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Blur");
     // Shared with the sharpness slider, which has the same settings.
     static const SliderRange radiusRange;
 

@@ -18,7 +18,7 @@ class CRPNode : public KeyedNode<CRPNode, CRPValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Crop";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Crop");
 
     explicit CRPNode(QWidget* parent = nullptr);
 

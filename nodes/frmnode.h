@@ -21,7 +21,7 @@ class FRMNode : public KeyedNode<FRMNode, FRMValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Frame";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Frame");
 
     explicit FRMNode(QWidget* parent = nullptr);
 

@@ -13,7 +13,7 @@ class GRSNode : public KeyedNode<GRSNode, NoValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Grayscale";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Grayscale");
 
     explicit GRSNode(QWidget* parent = nullptr);
 

@@ -16,7 +16,7 @@ class HSTNode : public KeyedNode<HSTNode, HSTValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Histogram optimizer";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Histogram optimizer");
 
     explicit HSTNode(QWidget* parent = nullptr);
 

@@ -8,7 +8,7 @@ class INVNode : public KeyedNode<INVNode, NoValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Invert";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Invert");
 
     explicit INVNode(QWidget* parent = nullptr);
 

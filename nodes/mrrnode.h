@@ -16,7 +16,7 @@ class MRRNode : public KeyedNode<MRRNode, MRRValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Mirror";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Mirror");
 
     explicit MRRNode(QWidget* parent = nullptr);
 

@@ -15,6 +15,8 @@
 #include "ucsnode.h"
 #include "wmrnode.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 struct Operation
@@ -67,6 +69,11 @@ const struct
 };
 
 } // namespace
+
+QString displayNameForNodeName(const QString& name)
+{
+    return QCoreApplication::translate("NodeName", name.toUtf8().constData());
+}
 
 QPixmap iconForNodeName(const QString& name)
 {

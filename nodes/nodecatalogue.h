@@ -12,6 +12,10 @@ class QWidget;
 // ":/Icon_XXX.png" for the first catalogue word the name contains; a null pixmap for none.
 QPixmap iconForNodeName(const QString& name);
 
+// The name as the user reads it, in the current language; the name itself stays the key
+// in flow files and the batch.
+QString displayNameForNodeName(const QString& name);
+
 // The fourteen names the factory creates, in the factory's order.
 QStringList factoryNodeNames();
 

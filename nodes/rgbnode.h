@@ -15,7 +15,7 @@ class RGBNode : public KeyedNode<RGBNode, RGBValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "RGB-Order";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "RGB-Order");
 
     explicit RGBNode(QWidget* parent = nullptr);
 

@@ -20,7 +20,7 @@ class RSZNode : public KeyedNode<RSZNode, RSZValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Resize";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Resize");
 
     explicit RSZNode(QWidget* parent = nullptr);
 

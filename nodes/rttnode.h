@@ -15,7 +15,7 @@ class RTTNode : public KeyedNode<RTTNode, RTTValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Rotate";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Rotate");
 
     explicit RTTNode(QWidget* parent = nullptr);
 

@@ -22,7 +22,7 @@ class UCSNode : public KeyedNode<UCSNode, UCSValues>
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = "Vignetting";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Vignetting");
 
     explicit UCSNode(QWidget* parent = nullptr);
 

@@ -36,7 +36,7 @@ class WMRNode : public KeyedNode<WMRNode, WMRValues>
 public:
     using WMRParams = OrkGraphX::WMRParams;
 
-    static constexpr const char* Name = "Watermark";
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Watermark");
     // The "Logo:" text of the built-in logo; with it "ImageData" is stored empty.
     static constexpr const char* BuiltInLogoName = "qubrast.png";
 

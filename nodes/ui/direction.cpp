@@ -5,9 +5,16 @@
 namespace {
 const QStringList& names()
 {
-    static const QStringList list = {"TopLeft",    "TopMiddle",    "TopRight",
-                                     "MiddleLeft", "Middle",       "MiddleRight",
-                                     "BottomLeft", "BottomMiddle", "BottomRight"};
+    // Marked for translation: the direction buttons show them as tool tips.
+    static const QStringList list = {QT_TRANSLATE_NOOP("Direction", "TopLeft"),
+                                     QT_TRANSLATE_NOOP("Direction", "TopMiddle"),
+                                     QT_TRANSLATE_NOOP("Direction", "TopRight"),
+                                     QT_TRANSLATE_NOOP("Direction", "MiddleLeft"),
+                                     QT_TRANSLATE_NOOP("Direction", "Middle"),
+                                     QT_TRANSLATE_NOOP("Direction", "MiddleRight"),
+                                     QT_TRANSLATE_NOOP("Direction", "BottomLeft"),
+                                     QT_TRANSLATE_NOOP("Direction", "BottomMiddle"),
+                                     QT_TRANSLATE_NOOP("Direction", "BottomRight")};
     return list;
 }
 } // namespace

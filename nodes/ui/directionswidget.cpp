@@ -1,5 +1,6 @@
 #include "directionswidget.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -20,7 +21,8 @@ DirectionsWidget::DirectionsWidget(QWidget* parent)
         button->setFlat(true);
         button->setCheckable(true);
         button->setFixedSize(16, 16);
-        button->setToolTip(directionName(cell));
+        button->setToolTip(
+            QCoreApplication::translate("Direction", directionName(cell).toLatin1().constData()));
         grid->addWidget(button, cell / 3, cell % 3);
         connect(button, &QPushButton::clicked, this, &DirectionsWidget::slotClicked);
         buttons.append(button);

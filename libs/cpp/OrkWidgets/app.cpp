@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLocale>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QSettings>
@@ -80,6 +82,18 @@ void App::slotHelp()
     auto* window = new HelpWindow(helpSlides, mainWindow);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->show();
+}
+
+QString App::aboutText() const
+{
+    const QString date = QLocale(language()).toString(buildDate(), QLocale::LongFormat);
+    return tr("<H2>%1</H2><p>Version %2</p><p>Built on %3</p>")
+        .arg(applicationName(), applicationVersion(), date);
+}
+
+void App::slotAbout()
+{
+    QMessageBox::about(mainWindow, tr("About %1").arg(applicationName()), aboutText());
 }
 
 bool App::copyFile(const QString& source, const QString& folder, const QString& name)

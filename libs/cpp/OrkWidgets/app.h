@@ -41,6 +41,9 @@ public:
     bool isHelpDue() const;
     void addUsage(int points);
 
+    // The about box's text: name, version and build date, the date in the language's form.
+    QString aboutText() const;
+
     // Copies source to folder + "/" + name (the source's file name when name is empty),
     // creating the folder. An existing target is left untouched and counts as success.
     static bool copyFile(const QString& source, const QString& folder, const QString& name = {});
@@ -70,6 +73,7 @@ signals:
 
 public slots:
     void slotHelp();
+    void slotAbout();
 
 private:
     static void messageHandler(QtMsgType type, const QMessageLogContext& context,

@@ -1,0 +1,934 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>AppSettingsDialog</name>
+    <message>
+        <location filename="../../batch/appsettingsdialog.cpp" line="+20"/>
+        <source> Settings</source>
+        <translation> Einstellungen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open Destination Folder When Done</source>
+        <translation>Zielordner danach öffnen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Quiality:</source>
+        <translation>Qualität:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Output Format</source>
+        <translation>Ausgabeformat</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Odd</source>
+        <translation>Ungerade</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Even</source>
+        <translation>Gerade</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>New Name:</source>
+        <translation>Neuer Name:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numbers:</source>
+        <translation>Nummern:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>BCSNode</name>
+    <message>
+        <location filename="../../nodes/bcsnode.cpp" line="+12"/>
+        <source>Brightness:</source>
+        <translation>Helligkeit:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Contrast:</source>
+        <translation>Kontrast:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Saturation:</source>
+        <translation>Sättigung:</translation>
+    </message>
+</context>
+<context>
+    <name>BINNode</name>
+    <message>
+        <location filename="../../nodes/binnode.cpp" line="+12"/>
+        <source>Threshold:</source>
+        <translation>Schwellwert:</translation>
+    </message>
+</context>
+<context>
+    <name>BLRNode</name>
+    <message>
+        <location filename="../../nodes/blrnode.cpp" line="+13"/>
+        <source>Blur:</source>
+        <translation>Unschärfe:</translation>
+    </message>
+</context>
+<context>
+    <name>BaseNode</name>
+    <message>
+        <location filename="../../nodes/nodecontrols.cpp" line="+176"/>
+        <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
+        <translation>&lt;H2&gt;Keine Optionen&lt;/H2&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>BatchDialog</name>
+    <message>
+        <location filename="../../batch/batchdialog.cpp" line="+27"/>
+        <source> Batch Process</source>
+        <translation> Stapelverarbeitung</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <location line="+51"/>
+        <location line="+42"/>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <location line="-90"/>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <location line="+48"/>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>of</source>
+        <translation>von</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>&lt;CENTER&gt;&lt;H1&gt;Please, wait...&lt;/H1&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H1&gt;Bitte warten...&lt;/H1&gt;&lt;/CENTER&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>BatchEngine</name>
+    <message>
+        <location filename="../../batch/batchengine.cpp" line="+50"/>
+        <source>no photo at position %1</source>
+        <translation>kein Foto an Position %1</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>cannot write: it would replace a source photo</source>
+        <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+5"/>
+        <location line="+3"/>
+        <source>cannot write: %1</source>
+        <translation>Schreiben nicht möglich: %1</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>unreadable: not a photo this program can read</source>
+        <translation>nicht lesbar: kein Foto, das dieses Programm lesen kann</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>unreadable: no such file</source>
+        <translation>nicht lesbar: Datei existiert nicht</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>the operation &quot;%1&quot; left no image</source>
+        <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
+    </message>
+</context>
+<context>
+    <name>CRPNode</name>
+    <message>
+        <location filename="../../nodes/crpnode.cpp" line="+13"/>
+        <source>Left:</source>
+        <translation>Links:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Right:</source>
+        <translation>Rechts:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Top:</source>
+        <translation>Oben:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Buttom:</source>
+        <translation>Unten:</translation>
+    </message>
+</context>
+<context>
+    <name>Creator</name>
+    <message>
+        <location filename="../../mainpage/creator.cpp" line="+36"/>
+        <source>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</source>
+        <translation>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Switch between the photo and the icon list</source>
+        <translation>Zwischen Foto und Symbolliste wechseln</translation>
+    </message>
+</context>
+<context>
+    <name>CreatorDropArea</name>
+    <message>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+19"/>
+        <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
+        <translation>&lt;H2&gt;Fotos hierher ziehen&lt;/H2&gt;</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Click to open the photos</source>
+        <translation>Klicken, um Fotos zu öffnen</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Open the photos</source>
+        <translation>Fotos öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>Direction</name>
+    <message>
+        <location filename="../../nodes/ui/direction.cpp" line="+10"/>
+        <source>TopLeft</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>TopMiddle</source>
+        <translation>Oben Mitte</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>TopRight</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MiddleLeft</source>
+        <translation>Mitte links</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MiddleRight</source>
+        <translation>Mitte rechts</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>BottomLeft</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>BottomMiddle</source>
+        <translation>Unten Mitte</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>BottomRight</source>
+        <translation>Unten rechts</translation>
+    </message>
+</context>
+<context>
+    <name>FRMNode</name>
+    <message>
+        <location filename="../../nodes/frmnode.cpp" line="+12"/>
+        <source>Color:</source>
+        <translation>Farbe:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Width:</source>
+        <translation>Breite:</translation>
+    </message>
+</context>
+<context>
+    <name>FavoritesDeleteDlg</name>
+    <message>
+        <location filename="../../flow/favoritesdeletedlg.cpp" line="+15"/>
+        <source>Delete the flow</source>
+        <translation>Ablauf löschen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>FlowPanel</name>
+    <message>
+        <location filename="../../flow/flowpanel.cpp" line="+32"/>
+        <source>Flows</source>
+        <translation>Abläufe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Save Results</source>
+        <translation>Ergebnisse speichern</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Add node</source>
+        <translation>Schritt hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Remove selected node</source>
+        <translation>Gewählten Schritt entfernen</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Save the resulted photos to the separate folder</source>
+        <translation>Die bearbeiteten Fotos in einen eigenen Ordner speichern</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>&amp;Clear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Save...</source>
+        <translation>&amp;Speichern...</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&amp;Delete...</source>
+        <translation>&amp;Löschen...</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&amp;Go To Flows Location</source>
+        <translation>Ablauf&amp;ordner öffnen</translation>
+    </message>
+    <message>
+        <location line="+47"/>
+        <location line="+44"/>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>Save Flow</source>
+        <translation>Ablauf speichern</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Flow&apos;s Name:</source>
+        <translation>Name des Ablaufs:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Can not create the flow without name</source>
+        <translation>Ein Ablauf ohne Namen kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The flow the with name &quot;%1&quot; already exists.
+Overwrite?</source>
+        <translation>Ein Ablauf mit dem Namen „%1“ existiert bereits.
+Überschreiben?</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Remove the flow:
+ &quot;%1&quot;?</source>
+        <translation>Den Ablauf entfernen:
+ „%1“?</translation>
+    </message>
+</context>
+<context>
+    <name>HSTNode</name>
+    <message>
+        <location filename="../../nodes/hstnode.cpp" line="+12"/>
+        <source>Left:</source>
+        <translation>Links:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Right:</source>
+        <translation>Rechts:</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePreview</name>
+    <message>
+        <location filename="../../mainpage/imagepreview.cpp" line="+13"/>
+        <source>&lt;H1&gt;INFO&lt;/H1&gt;</source>
+        <translation>&lt;H1&gt;INFO&lt;/H1&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ImageViewDialog</name>
+    <message>
+        <location filename="../../mainpage/imageviewdialog.cpp" line="+14"/>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+</context>
+<context>
+    <name>MRRNode</name>
+    <message>
+        <location filename="../../nodes/mrrnode.cpp" line="+20"/>
+        <source>Mirror left to right</source>
+        <translation>Von links nach rechts spiegeln</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Mirror top to bottom</source>
+        <translation>Von oben nach unten spiegeln</translation>
+    </message>
+</context>
+<context>
+    <name>MainPage</name>
+    <message>
+        <location filename="../../mainpage/mainpage.cpp" line="+50"/>
+        <source>Output settings</source>
+        <translation>Ausgabeeinstellungen</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Show &amp;Help</source>
+        <translation>&amp;Hilfe anzeigen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;About %1</source>
+        <translation>&amp;Über %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The new language is used from the next start of %1.</source>
+        <translation>Die neue Sprache gilt ab dem nächsten Start von %1.</translation>
+    </message>
+</context>
+<context>
+    <name>NodeName</name>
+    <message>
+        <location filename="../../nodes/bcsnode.h" line="+20"/>
+        <source>Brightness, Contrast, Saturation</source>
+        <translation>Helligkeit, Kontrast, Sättigung</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/binnode.h" line="+18"/>
+        <source>Binarization</source>
+        <translation>Binarisierung</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/blrnode.h" line="+18"/>
+        <source>Blur</source>
+        <translation>Weichzeichnen</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/crpnode.h" line="+21"/>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/frmnode.h" line="+24"/>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/grsnode.h" line="+16"/>
+        <source>Grayscale</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/hstnode.h" line="+19"/>
+        <source>Histogram optimizer</source>
+        <translation>Histogramm-Optimierung</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/invnode.h" line="+11"/>
+        <source>Invert</source>
+        <translation>Invertieren</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/mrrnode.h" line="+19"/>
+        <source>Mirror</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/rgbnode.h" line="+18"/>
+        <source>RGB-Order</source>
+        <translation>RGB-Reihenfolge</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/rsznode.h" line="+23"/>
+        <source>Resize</source>
+        <translation>Größe ändern</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/rttnode.h" line="+18"/>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/ucsnode.h" line="+25"/>
+        <source>Vignetting</source>
+        <translation>Vignettierung</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/wmrnode.h" line="+39"/>
+        <source>Watermark</source>
+        <translation>Wasserzeichen</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoLabel</name>
+    <message>
+        <location filename="../../mainpage/photolabel.cpp" line="+36"/>
+        <source>Previous photo</source>
+        <translation>Vorheriges Foto</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Next photo</source>
+        <translation>Nächstes Foto</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>&lt;H1&gt;%1 of %2&lt;/H1&gt;</source>
+        <translation>&lt;H1&gt;%1 von %2&lt;/H1&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RGBNode</name>
+    <message>
+        <location filename="../../nodes/rgbnode.cpp" line="+14"/>
+        <source>Red&lt;-&gt;Blue</source>
+        <translation>Rot&lt;-&gt;Blau</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Red&lt;-&gt;Green</source>
+        <translation>Rot&lt;-&gt;Grün</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Green&lt;-&gt;Blue</source>
+        <translation>Grün&lt;-&gt;Blau</translation>
+    </message>
+</context>
+<context>
+    <name>RSZNode</name>
+    <message>
+        <location filename="../../nodes/rsznode.cpp" line="+20"/>
+        <source>Percentage</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Maximum Pixels</source>
+        <translation>Maximale Pixel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Scale by:</source>
+        <translation>Skalieren nach:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Width:</source>
+        <translation>Breite:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Height:</source>
+        <translation>Höhe:</translation>
+    </message>
+</context>
+<context>
+    <name>RTTNode</name>
+    <message>
+        <location filename="../../nodes/rttnode.cpp" line="+14"/>
+        <source>Rotate clockwise</source>
+        <translation>Im Uhrzeigersinn drehen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Rotate anticlockwise</source>
+        <translation>Gegen den Uhrzeigersinn drehen</translation>
+    </message>
+</context>
+<context>
+    <name>Representor</name>
+    <message>
+        <location filename="../../mainpage/representor.cpp" line="+45"/>
+        <source>&lt;H2&gt;&lt;CENTER&gt;Result&lt;/CENTER&gt;&lt;/H2&gt;</source>
+        <translation>&lt;H2&gt;&lt;CENTER&gt;Ergebnis&lt;/CENTER&gt;&lt;/H2&gt;</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Show the result in full size</source>
+        <translation>Ergebnis in voller Größe zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>SHSNode</name>
+    <message>
+        <location filename="../../nodes/shsnode.cpp" line="+12"/>
+        <source>Sharpness:</source>
+        <translation>Schärfe:</translation>
+    </message>
+</context>
+<context>
+    <name>TabLabel</name>
+    <message>
+        <location filename="../../flow/tablabel.cpp" line="+21"/>
+        <source>Enlarge the preview</source>
+        <translation>Vorschau vergrößern</translation>
+    </message>
+</context>
+<context>
+    <name>UCSNode</name>
+    <message>
+        <location filename="../../nodes/ucsnode.cpp" line="+12"/>
+        <source>Radius:</source>
+        <translation>Radius:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Opacity:</source>
+        <translation>Deckkraft:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Color:</source>
+        <translation>Farbe:</translation>
+    </message>
+</context>
+<context>
+    <name>WMRNode</name>
+    <message>
+        <location filename="../../nodes/wmrnode.cpp" line="+53"/>
+        <source>Fewer options</source>
+        <translation>Weniger Optionen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Watermark</source>
+        <translation>Wasserzeichen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Underlined</source>
+        <translation>Unterstrichen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Draw</source>
+        <translation>Zeichnen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open a logo picture</source>
+        <translation>Logobild öffnen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>X: </source>
+        <translation>X: </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Horizontal offset in percent of the height</source>
+        <translation>Waagrechter Versatz in Prozent der Höhe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Y: </source>
+        <translation>Y: </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vertical offset in percent of the height</source>
+        <translation>Senkrechter Versatz in Prozent der Höhe</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Draw the background behind the text</source>
+        <translation>Hintergrund hinter dem Text zeichnen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Kind:</source>
+        <translation>Art:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Text:</source>
+        <translation>Text:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Font:</source>
+        <translation>Schrift:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Text color:</source>
+        <translation>Textfarbe:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Background:</source>
+        <translation>Hintergrund:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Logo:</source>
+        <translation>Logo:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Size:</source>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Transparency:</source>
+        <translation>Transparenz:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Position:</source>
+        <translation>Position:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Expand:</source>
+        <translation>Strecken:</translation>
+    </message>
+    <message>
+        <location line="+110"/>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Can not open the image file:</source>
+        <translation>Die Bilddatei kann nicht geöffnet werden:</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Open the watermark file</source>
+        <translation>Wasserzeichen-Datei öffnen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Images (%1);;All files (*)</source>
+        <translation>Bilder (%1);;Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <location filename="../../app/batchmain.cpp" line="+42"/>
+        <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
+Options that are not given come from the settings of the Pelodine window.
+Progress and a summary go to the standard error; every photo that failed is named with the reason.
+Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a flow that cannot be read.
+A source photo is never written over.</source>
+        <translation>Wendet einen Pelodine-Ablauf auf Fotos an und schreibt die Ergebnisse, wie es „Ergebnisse speichern“ im Fenster tut.
+Nicht angegebene Optionen kommen aus den Einstellungen des Pelodine-Fensters.
+Fortschritt und Zusammenfassung gehen auf die Standardfehlerausgabe; jedes fehlgeschlagene Foto wird mit dem Grund genannt.
+Rückgabewert: 0, wenn jedes Foto geschrieben wurde, 1, wenn einige fehlschlugen, 2 bei falscher Verwendung oder einem nicht lesbaren Ablauf.
+Ein Quellfoto wird nie überschrieben.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>The flow: a .flow file, or the name of a flow in the flows folder (%1). Default: the built-in sample flow.</source>
+        <translation>Der Ablauf: eine .flow-Datei oder der Name eines Ablaufs im Ablaufordner (%1). Standard: der eingebaute Beispielablauf.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The folder to write into. Default: a new folder named by the start time under %1.</source>
+        <translation>Der Ordner, in den geschrieben wird. Standard: ein neuer, nach der Startzeit benannter Ordner unter %1.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The output format; the file extension is its name in lower case.</source>
+        <translation>Das Ausgabeformat; die Dateiendung ist sein Name in Kleinbuchstaben.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The JPEG quality.</source>
+        <translation>Die JPEG-Qualität.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Name the files NAME followed by a number instead of the photo&apos;s name.</source>
+        <translation>Die Dateien NAME mit angehängter Nummer statt nach dem Foto benennen.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The numbers when renaming: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</source>
+        <translation>Die Nummern beim Umbenennen: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Print only the photos that failed.</source>
+        <translation>Nur die fehlgeschlagenen Fotos ausgeben.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Photos, and folders whose image files (subfolders included) are taken in name order.</source>
+        <translation>Fotos und Ordner, deren Bilddateien (samt Unterordnern) in Namensreihenfolge genommen werden.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>no flow file or flow named %1</source>
+        <translation>keine Ablaufdatei und kein Ablauf namens %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>cannot read the flow %1</source>
+        <translation>der Ablauf %1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 is not a flow: it is not well-formed XML</source>
+        <translation>%1 ist kein Ablauf: kein wohlgeformtes XML</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>unknown format %1</source>
+        <translation>unbekanntes Format %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>the quality must be 1 to 100</source>
+        <translation>die Qualität muss zwischen 1 und 100 liegen</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>the numbers must be all, odd or even</source>
+        <translation>die Nummern müssen all, odd oder even sein</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>no photos given</source>
+        <translation>keine Fotos angegeben</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>no photos in the folders given</source>
+        <translation>keine Fotos in den angegebenen Ordnern</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>cannot create the folder %1</source>
+        <translation>der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <location line="+50"/>
+        <source>%1 of %2 photos written into %3</source>
+        <translation>%1 von %2 Fotos nach %3 geschrieben</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+6"/>
+        <source>%n photo(s) failed:</source>
+        <translation>
+            <numerusform>%n Foto fehlgeschlagen:</numerusform>
+            <numerusform>%n Fotos fehlgeschlagen:</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,935 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU">
+<context>
+    <name>AppSettingsDialog</name>
+    <message>
+        <location filename="../../batch/appsettingsdialog.cpp" line="+20"/>
+        <source> Settings</source>
+        <translation> Настройки</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open Destination Folder When Done</source>
+        <translation>Открыть папку результатов по завершении</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Quiality:</source>
+        <translation>Качество:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Output Format</source>
+        <translation>Формат вывода</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Format:</source>
+        <translation>Формат:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Rename</source>
+        <translation>Переименовать</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>All</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Odd</source>
+        <translation>Нечётные</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Even</source>
+        <translation>Чётные</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>New Name:</source>
+        <translation>Новое имя:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Numbers:</source>
+        <translation>Номера:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Ok</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>BCSNode</name>
+    <message>
+        <location filename="../../nodes/bcsnode.cpp" line="+12"/>
+        <source>Brightness:</source>
+        <translation>Яркость:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Contrast:</source>
+        <translation>Контраст:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Saturation:</source>
+        <translation>Насыщенность:</translation>
+    </message>
+</context>
+<context>
+    <name>BINNode</name>
+    <message>
+        <location filename="../../nodes/binnode.cpp" line="+12"/>
+        <source>Threshold:</source>
+        <translation>Порог:</translation>
+    </message>
+</context>
+<context>
+    <name>BLRNode</name>
+    <message>
+        <location filename="../../nodes/blrnode.cpp" line="+13"/>
+        <source>Blur:</source>
+        <translation>Размытие:</translation>
+    </message>
+</context>
+<context>
+    <name>BaseNode</name>
+    <message>
+        <location filename="../../nodes/nodecontrols.cpp" line="+176"/>
+        <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
+        <translation>&lt;H2&gt;Нет параметров&lt;/H2&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>BatchDialog</name>
+    <message>
+        <location filename="../../batch/batchdialog.cpp" line="+27"/>
+        <source> Batch Process</source>
+        <translation> Пакетная обработка</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <location line="+51"/>
+        <location line="+42"/>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <location line="-90"/>
+        <source>Stop</source>
+        <translation>Стоп</translation>
+    </message>
+    <message>
+        <location line="+48"/>
+        <source>Resume</source>
+        <translation>Продолжить</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>of</source>
+        <translation>из</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>&lt;CENTER&gt;&lt;H1&gt;Please, wait...&lt;/H1&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H1&gt;Пожалуйста, подождите...&lt;/H1&gt;&lt;/CENTER&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>BatchEngine</name>
+    <message>
+        <location filename="../../batch/batchengine.cpp" line="+50"/>
+        <source>no photo at position %1</source>
+        <translation>нет фото в позиции %1</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>cannot write: it would replace a source photo</source>
+        <translation>запись невозможна: исходное фото было бы заменено</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+5"/>
+        <location line="+3"/>
+        <source>cannot write: %1</source>
+        <translation>запись невозможна: %1</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>unreadable: not a photo this program can read</source>
+        <translation>не читается: это не фото, которое может прочитать программа</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>unreadable: no such file</source>
+        <translation>не читается: файл не существует</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>the operation &quot;%1&quot; left no image</source>
+        <translation>операция «%1» не оставила изображения</translation>
+    </message>
+</context>
+<context>
+    <name>CRPNode</name>
+    <message>
+        <location filename="../../nodes/crpnode.cpp" line="+13"/>
+        <source>Left:</source>
+        <translation>Слева:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Right:</source>
+        <translation>Справа:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Top:</source>
+        <translation>Сверху:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Buttom:</source>
+        <translation>Снизу:</translation>
+    </message>
+</context>
+<context>
+    <name>Creator</name>
+    <message>
+        <location filename="../../mainpage/creator.cpp" line="+36"/>
+        <source>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</source>
+        <translation>&lt;H2&gt;&lt;CENTER&gt;Оригинал&lt;/CENTER&gt;&lt;/H2&gt;</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Switch between the photo and the icon list</source>
+        <translation>Переключение между фото и списком значков</translation>
+    </message>
+</context>
+<context>
+    <name>CreatorDropArea</name>
+    <message>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+19"/>
+        <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
+        <translation>&lt;H2&gt;Перетащите фото сюда&lt;/H2&gt;</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Click to open the photos</source>
+        <translation>Нажмите, чтобы открыть фото</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Open the photos</source>
+        <translation>Открыть фото</translation>
+    </message>
+</context>
+<context>
+    <name>Direction</name>
+    <message>
+        <location filename="../../nodes/ui/direction.cpp" line="+10"/>
+        <source>TopLeft</source>
+        <translation>Вверху слева</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>TopMiddle</source>
+        <translation>Вверху по центру</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>TopRight</source>
+        <translation>Вверху справа</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MiddleLeft</source>
+        <translation>В центре слева</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Middle</source>
+        <translation>В центре</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MiddleRight</source>
+        <translation>В центре справа</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>BottomLeft</source>
+        <translation>Внизу слева</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>BottomMiddle</source>
+        <translation>Внизу по центру</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>BottomRight</source>
+        <translation>Внизу справа</translation>
+    </message>
+</context>
+<context>
+    <name>FRMNode</name>
+    <message>
+        <location filename="../../nodes/frmnode.cpp" line="+12"/>
+        <source>Color:</source>
+        <translation>Цвет:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Width:</source>
+        <translation>Ширина:</translation>
+    </message>
+</context>
+<context>
+    <name>FavoritesDeleteDlg</name>
+    <message>
+        <location filename="../../flow/favoritesdeletedlg.cpp" line="+15"/>
+        <source>Delete the flow</source>
+        <translation>Удалить сценарий</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Отмена</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Delete</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+</context>
+<context>
+    <name>FlowPanel</name>
+    <message>
+        <location filename="../../flow/flowpanel.cpp" line="+32"/>
+        <source>Flows</source>
+        <translation>Сценарии</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Save Results</source>
+        <translation>Сохранить результаты</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Add node</source>
+        <translation>Добавить шаг</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Remove selected node</source>
+        <translation>Удалить выбранный шаг</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Save the resulted photos to the separate folder</source>
+        <translation>Сохранить обработанные фото в отдельную папку</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>&amp;Clear</source>
+        <translation>&amp;Очистить</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Save...</source>
+        <translation>&amp;Сохранить...</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&amp;Delete...</source>
+        <translation>&amp;Удалить...</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&amp;Go To Flows Location</source>
+        <translation>&amp;Перейти к папке сценариев</translation>
+    </message>
+    <message>
+        <location line="+47"/>
+        <location line="+44"/>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <source>Save Flow</source>
+        <translation>Сохранить сценарий</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Flow&apos;s Name:</source>
+        <translation>Имя сценария:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Can not create the flow without name</source>
+        <translation>Нельзя создать сценарий без имени</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The flow the with name &quot;%1&quot; already exists.
+Overwrite?</source>
+        <translation>Сценарий с именем «%1» уже существует.
+Перезаписать?</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Remove the flow:
+ &quot;%1&quot;?</source>
+        <translation>Удалить сценарий:
+ «%1»?</translation>
+    </message>
+</context>
+<context>
+    <name>HSTNode</name>
+    <message>
+        <location filename="../../nodes/hstnode.cpp" line="+12"/>
+        <source>Left:</source>
+        <translation>Слева:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Right:</source>
+        <translation>Справа:</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePreview</name>
+    <message>
+        <location filename="../../mainpage/imagepreview.cpp" line="+13"/>
+        <source>&lt;H1&gt;INFO&lt;/H1&gt;</source>
+        <translation>&lt;H1&gt;ИНФО&lt;/H1&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ImageViewDialog</name>
+    <message>
+        <location filename="../../mainpage/imageviewdialog.cpp" line="+14"/>
+        <source>Result</source>
+        <translation>Результат</translation>
+    </message>
+</context>
+<context>
+    <name>MRRNode</name>
+    <message>
+        <location filename="../../nodes/mrrnode.cpp" line="+20"/>
+        <source>Mirror left to right</source>
+        <translation>Отразить слева направо</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Mirror top to bottom</source>
+        <translation>Отразить сверху вниз</translation>
+    </message>
+</context>
+<context>
+    <name>MainPage</name>
+    <message>
+        <location filename="../../mainpage/mainpage.cpp" line="+50"/>
+        <source>Output settings</source>
+        <translation>Параметры вывода</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>&amp;Language</source>
+        <translation>&amp;Язык</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Show &amp;Help</source>
+        <translation>Показать &amp;справку</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;About %1</source>
+        <translation>&amp;О программе %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The new language is used from the next start of %1.</source>
+        <translation>Новый язык будет использоваться после следующего запуска %1.</translation>
+    </message>
+</context>
+<context>
+    <name>NodeName</name>
+    <message>
+        <location filename="../../nodes/bcsnode.h" line="+20"/>
+        <source>Brightness, Contrast, Saturation</source>
+        <translation>Яркость, контраст, насыщенность</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/binnode.h" line="+18"/>
+        <source>Binarization</source>
+        <translation>Бинаризация</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/blrnode.h" line="+18"/>
+        <source>Blur</source>
+        <translation>Размытие</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/crpnode.h" line="+21"/>
+        <source>Crop</source>
+        <translation>Обрезка</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/frmnode.h" line="+24"/>
+        <source>Frame</source>
+        <translation>Рамка</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/grsnode.h" line="+16"/>
+        <source>Grayscale</source>
+        <translation>Оттенки серого</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/hstnode.h" line="+19"/>
+        <source>Histogram optimizer</source>
+        <translation>Оптимизация гистограммы</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/invnode.h" line="+11"/>
+        <source>Invert</source>
+        <translation>Инверсия</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/mrrnode.h" line="+19"/>
+        <source>Mirror</source>
+        <translation>Отражение</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/rgbnode.h" line="+18"/>
+        <source>RGB-Order</source>
+        <translation>Порядок RGB</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/rsznode.h" line="+23"/>
+        <source>Resize</source>
+        <translation>Изменение размера</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/rttnode.h" line="+18"/>
+        <source>Rotate</source>
+        <translation>Поворот</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/ucsnode.h" line="+25"/>
+        <source>Vignetting</source>
+        <translation>Виньетирование</translation>
+    </message>
+    <message>
+        <location filename="../../nodes/wmrnode.h" line="+39"/>
+        <source>Watermark</source>
+        <translation>Водяной знак</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoLabel</name>
+    <message>
+        <location filename="../../mainpage/photolabel.cpp" line="+36"/>
+        <source>Previous photo</source>
+        <translation>Предыдущее фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Next photo</source>
+        <translation>Следующее фото</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>&lt;H1&gt;%1 of %2&lt;/H1&gt;</source>
+        <translation>&lt;H1&gt;%1 из %2&lt;/H1&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>RGBNode</name>
+    <message>
+        <location filename="../../nodes/rgbnode.cpp" line="+14"/>
+        <source>Red&lt;-&gt;Blue</source>
+        <translation>Красный&lt;-&gt;Синий</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Red&lt;-&gt;Green</source>
+        <translation>Красный&lt;-&gt;Зелёный</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Green&lt;-&gt;Blue</source>
+        <translation>Зелёный&lt;-&gt;Синий</translation>
+    </message>
+</context>
+<context>
+    <name>RSZNode</name>
+    <message>
+        <location filename="../../nodes/rsznode.cpp" line="+20"/>
+        <source>Percentage</source>
+        <translation>Проценты</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Maximum Pixels</source>
+        <translation>Максимум пикселей</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pixels</source>
+        <translation>Пиксели</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Scale by:</source>
+        <translation>Масштаб по:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Width:</source>
+        <translation>Ширина:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Height:</source>
+        <translation>Высота:</translation>
+    </message>
+</context>
+<context>
+    <name>RTTNode</name>
+    <message>
+        <location filename="../../nodes/rttnode.cpp" line="+14"/>
+        <source>Rotate clockwise</source>
+        <translation>Повернуть по часовой стрелке</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Rotate anticlockwise</source>
+        <translation>Повернуть против часовой стрелки</translation>
+    </message>
+</context>
+<context>
+    <name>Representor</name>
+    <message>
+        <location filename="../../mainpage/representor.cpp" line="+45"/>
+        <source>&lt;H2&gt;&lt;CENTER&gt;Result&lt;/CENTER&gt;&lt;/H2&gt;</source>
+        <translation>&lt;H2&gt;&lt;CENTER&gt;Результат&lt;/CENTER&gt;&lt;/H2&gt;</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Show the result in full size</source>
+        <translation>Показать результат в полном размере</translation>
+    </message>
+</context>
+<context>
+    <name>SHSNode</name>
+    <message>
+        <location filename="../../nodes/shsnode.cpp" line="+12"/>
+        <source>Sharpness:</source>
+        <translation>Резкость:</translation>
+    </message>
+</context>
+<context>
+    <name>TabLabel</name>
+    <message>
+        <location filename="../../flow/tablabel.cpp" line="+21"/>
+        <source>Enlarge the preview</source>
+        <translation>Увеличить превью</translation>
+    </message>
+</context>
+<context>
+    <name>UCSNode</name>
+    <message>
+        <location filename="../../nodes/ucsnode.cpp" line="+12"/>
+        <source>Radius:</source>
+        <translation>Радиус:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Opacity:</source>
+        <translation>Непрозрачность:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Color:</source>
+        <translation>Цвет:</translation>
+    </message>
+</context>
+<context>
+    <name>WMRNode</name>
+    <message>
+        <location filename="../../nodes/wmrnode.cpp" line="+53"/>
+        <source>Fewer options</source>
+        <translation>Меньше параметров</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Watermark</source>
+        <translation>Водяной знак</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Bold</source>
+        <translation>Жирный</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Italic</source>
+        <translation>Курсив</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Underlined</source>
+        <translation>Подчёркнутый</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Draw</source>
+        <translation>Рисовать</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Open a logo picture</source>
+        <translation>Открыть изображение логотипа</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>X: </source>
+        <translation>X: </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Horizontal offset in percent of the height</source>
+        <translation>Смещение по горизонтали в процентах от высоты</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Y: </source>
+        <translation>Y: </translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Vertical offset in percent of the height</source>
+        <translation>Смещение по вертикали в процентах от высоты</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Image</source>
+        <translation>Изображение</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Draw the background behind the text</source>
+        <translation>Рисовать фон под текстом</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Kind:</source>
+        <translation>Тип:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Text:</source>
+        <translation>Текст:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Font:</source>
+        <translation>Шрифт:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Text color:</source>
+        <translation>Цвет текста:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Background:</source>
+        <translation>Фон:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Logo:</source>
+        <translation>Логотип:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Size:</source>
+        <translation>Размер:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Transparency:</source>
+        <translation>Прозрачность:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Position:</source>
+        <translation>Положение:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Expand:</source>
+        <translation>Растянуть:</translation>
+    </message>
+    <message>
+        <location line="+110"/>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Can not open the image file:</source>
+        <translation>Не удаётся открыть файл изображения:</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Open the watermark file</source>
+        <translation>Открыть файл водяного знака</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Images (%1);;All files (*)</source>
+        <translation>Изображения (%1);;Все файлы (*)</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <location filename="../../app/batchmain.cpp" line="+42"/>
+        <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
+Options that are not given come from the settings of the Pelodine window.
+Progress and a summary go to the standard error; every photo that failed is named with the reason.
+Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a flow that cannot be read.
+A source photo is never written over.</source>
+        <translation>Применяет сценарий Pelodine к фото и записывает результаты, как кнопка «Сохранить результаты» в окне.
+Не заданные параметры берутся из настроек окна Pelodine.
+Ход работы и итог выводятся в стандартный поток ошибок; каждое необработанное фото указывается с причиной.
+Код завершения: 0, если записаны все фото, 1, если часть не удалась, 2 при неверном вызове или нечитаемом сценарии.
+Исходное фото никогда не перезаписывается.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>The flow: a .flow file, or the name of a flow in the flows folder (%1). Default: the built-in sample flow.</source>
+        <translation>Сценарий: файл .flow или имя сценария в папке сценариев (%1). По умолчанию: встроенный пример.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The folder to write into. Default: a new folder named by the start time under %1.</source>
+        <translation>Папка для записи. По умолчанию: новая папка с именем по времени запуска в %1.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The output format; the file extension is its name in lower case.</source>
+        <translation>Формат вывода; расширение файла — его имя строчными буквами.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The JPEG quality.</source>
+        <translation>Качество JPEG.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Name the files NAME followed by a number instead of the photo&apos;s name.</source>
+        <translation>Называть файлы NAME с номером вместо имени фото.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The numbers when renaming: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</source>
+        <translation>Номера при переименовании: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Print only the photos that failed.</source>
+        <translation>Выводить только необработанные фото.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Photos, and folders whose image files (subfolders included) are taken in name order.</source>
+        <translation>Фото и папки, файлы изображений которых (включая подпапки) берутся в порядке имён.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>no flow file or flow named %1</source>
+        <translation>нет файла сценария или сценария с именем %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>cannot read the flow %1</source>
+        <translation>не удаётся прочитать сценарий %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 is not a flow: it is not well-formed XML</source>
+        <translation>%1 — не сценарий: это некорректный XML</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>unknown format %1</source>
+        <translation>неизвестный формат %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>the quality must be 1 to 100</source>
+        <translation>качество должно быть от 1 до 100</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>the numbers must be all, odd or even</source>
+        <translation>номера должны быть all, odd или even</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>no photos given</source>
+        <translation>фото не указаны</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>no photos in the folders given</source>
+        <translation>в указанных папках нет фото</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>cannot create the folder %1</source>
+        <translation>не удаётся создать папку %1</translation>
+    </message>
+    <message>
+        <location line="+50"/>
+        <source>%1 of %2 photos written into %3</source>
+        <translation>записано %1 из %2 фото в %3</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+6"/>
+        <source>%n photo(s) failed:</source>
+        <translation>
+            <numerusform>%n фото не обработано:</numerusform>
+            <numerusform>%n фото не обработаны:</numerusform>
+            <numerusform>%n фото не обработано:</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
