@@ -35,6 +35,22 @@ inline QImage filled(int width, int height, QImage::Format format, QRgb word)
     return image;
 }
 
+// The three formats the kernels handle as words.
+const QImage::Format wordFormats[] = {QImage::Format_RGB32, QImage::Format_ARGB32,
+                                      QImage::Format_ARGB32_Premultiplied};
+
+inline const char* formatName(QImage::Format format)
+{
+    switch (format) {
+    case QImage::Format_RGB32:
+        return "RGB32";
+    case QImage::Format_ARGB32:
+        return "ARGB32";
+    default:
+        return "premultiplied";
+    }
+}
+
 inline QRgb word(const QImage& image, int x, int y)
 {
     return reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];

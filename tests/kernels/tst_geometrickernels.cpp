@@ -11,7 +11,9 @@ using Reference = std::function<QImage(const QImage&)>;
 Q_DECLARE_METATYPE(Kernel)
 Q_DECLARE_METATYPE(Reference)
 
+using KernelImages::formatName;
 using KernelImages::word;
+using KernelImages::wordFormats;
 
 namespace {
 
@@ -92,21 +94,6 @@ QImage testImage(int width, int height, QImage::Format format)
         for (int y = 0; y < height; y += 2)
             reinterpret_cast<QRgb*>(image.scanLine(y))[0] &= 0x12ffffff;
     return image;
-}
-
-const QImage::Format wordFormats[] = {QImage::Format_RGB32, QImage::Format_ARGB32,
-                                      QImage::Format_ARGB32_Premultiplied};
-
-const char* formatName(QImage::Format format)
-{
-    switch (format) {
-    case QImage::Format_RGB32:
-        return "RGB32";
-    case QImage::Format_ARGB32:
-        return "ARGB32";
-    default:
-        return "ARGB32 premultiplied";
-    }
 }
 
 } // namespace

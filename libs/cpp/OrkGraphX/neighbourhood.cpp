@@ -271,19 +271,6 @@ QImage paintedLikeSquare(QSize size, QImage::Format format, const QBrush& brush,
     return canvas;
 }
 
-// What the square holds at each gradient position: a one-pixel-wide strip painted like the
-// square with a linear gradient of the same stops that puts position k on row k.
-std::vector<QRgb> squareValues(QImage::Format format, const QGradientStops& stops, int opacity)
-{
-    QLinearGradient gradient(0, 0.5, 0, GradientPositions - 0.5);
-    gradient.setStops(stops);
-    const QImage strip = paintedLikeSquare(QSize(1, GradientPositions), format, gradient, opacity);
-    std::vector<QRgb> values(GradientPositions);
-    for (int k = 0; k < GradientPositions; ++k)
-        values[k] = rowWords(strip, k)[0];
-    return values;
-}
-
 // The gradient position of every pixel of one square row, as Qt's radial gradient fetch computes
 // it for a gradient centred on its focal point: the squared distance divided by the squared
 // radius is stepped incrementally from the start of each chunk. The 32-bit pipeline steps it in
@@ -292,79 +279,180 @@ std::vector<QRgb> squareValues(QImage::Format format, const QGradientStops& stop
 class RadialPositions
 {
 public:
-    RadialPositions(int squareSize, double centre, double radius, bool doublePrecision)
-        : size(squareSize)
+    // Rows computed side by side: each row's steps form one dependency chain, and several
+    // independent chains keep the processor busy.
+    static constexpr int Rows = 4;
+
+    RadialPositions(int width, QPointF centre, double radius, bool doublePrecision)
+        : size(width)
+        , stride(std::size_t(width) + 4)
         , centre(centre)
         , a(radius * radius)
         , doublePrecision(doublePrecision)
-        , positions(std::size_t(squareSize) + 4)
+        , positions(stride * Rows)
+        , doubleSteps(std::size_t(RasterChunk) * Rows)
+        , floatSteps(std::size_t(RasterChunk + 4) * Rows)
     {
     }
 
-    // Positions of square row j, or nullptr when the gradient degenerates (radius 0), in which
-    // case Qt paints nothing but transparent black.
+    // A gradient of radius 0 has no positions: Qt paints it transparent black.
+    bool degenerate() const { return a == 0; }
+
+    // Makes the given square rows available to row(), computing those not held yet together.
+    void prepare(const int* rows, int count)
+    {
+        std::array<int, Rows> missing{};
+        std::array<std::size_t, Rows> slotOf{};
+        int n = 0;
+        std::array<bool, Rows> wanted{};
+        for (int i = 0; i < count; ++i) {
+            const auto at = std::find(held.begin(), held.end(), rows[i]);
+            if (at != held.end())
+                wanted[std::size_t(at - held.begin())] = true;
+        }
+        for (int i = 0; i < count; ++i) {
+            if (std::find(held.begin(), held.end(), rows[i]) != held.end() ||
+                std::find(missing.begin(), missing.begin() + n, rows[i]) != missing.begin() + n)
+                continue;
+            std::size_t slot = 0;
+            while (wanted[slot])
+                ++slot;
+            wanted[slot] = true;
+            held[slot] = rows[i];
+            missing[std::size_t(n)] = rows[i];
+            slotOf[std::size_t(n)] = slot;
+            ++n;
+        }
+        if (n > 0)
+            compute(missing.data(), slotOf.data(), n);
+    }
+
     const std::uint16_t* row(int j)
     {
-        if (a == 0)
-            return nullptr;
-        if (j != cachedRow) {
-            for (int x0 = 0; x0 < size; x0 += RasterChunk)
-                fetchChunk(x0, j, std::min(RasterChunk, size - x0));
-            cachedRow = j;
-        }
-        return positions.data();
+        const auto at = std::find(held.begin(), held.end(), j);
+        if (at != held.end())
+            return positions.data() + std::size_t(at - held.begin()) * stride;
+        prepare(&j, 1);
+        return row(j);
     }
 
 private:
     int size = 0;
-    double centre = 0;
+    std::size_t stride = 0;
+    QPointF centre;
     double a = 0;
     bool doublePrecision = false;
-    int cachedRow = -1;
+    std::array<int, Rows> held{-1, -1, -1, -1};
     std::vector<std::uint16_t> positions;
+    std::vector<double> doubleSteps;
+    std::vector<float> floatSteps;
 
-    void fetchChunk(int x0, int y, int length)
+    static constexpr int Last = GradientPositions - 1;
+
+    // trunc(scaled) within 0..1023, as Qt clamps the converted position.
+    template <typename Real> static std::uint16_t positionIndex(Real scaled)
     {
-        const double rx = (x0 + 0.5) - centre;
-        const double ry = (y + 0.5) - centre;
-        const double rxrxryry = rx * rx + ry * ry;
-        double invA = 1 / (2 * a);
-        invA *= invA;
-        double det = (4 * a * rxrxryry) * invA;
-        double deltaDet = (4 * a * (2 * rx + 1)) * invA;
-        const double deltaDeltaDet = (4 * a * 2) * invA;
+        return std::uint16_t(scaled > 0 ? (scaled < Real(Last) ? scaled : Real(Last)) : 0);
+    }
 
-        std::uint16_t* out = positions.data() + x0;
-        if (doublePrecision) {
-            for (int i = 0; i < length; ++i) {
-                const int index = truncToInt(std::sqrt(det) * (GradientPositions - 1) + 0.5);
-                out[i] = std::uint16_t(std::clamp(index, 0, GradientPositions - 1));
-                det += deltaDet;
-                deltaDet += deltaDeltaDet;
+    void compute(const int* rows, const std::size_t* slotOf, int count)
+    {
+        for (int x0 = 0; x0 < size; x0 += RasterChunk) {
+            const int length = std::min(RasterChunk, size - x0);
+            std::array<double, Rows> det{};
+            std::array<double, Rows> deltaDet{};
+            double deltaDeltaDet = 0;
+            // Qt's set-up of the incremental determinant for a focal point on the centre.
+            const double rx = (x0 + 0.5) - centre.x();
+            for (int r = 0; r < count; ++r) {
+                const double ry = (rows[r] + 0.5) - centre.y();
+                const double rxrxryry = rx * rx + ry * ry;
+                double invA = 1 / (2 * a);
+                invA *= invA;
+                det[r] = (4 * a * rxrxryry) * invA;
+                deltaDet[r] = (4 * a * (2 * rx + 1)) * invA;
+                deltaDeltaDet = (4 * a * 2) * invA;
             }
-            return;
-        }
-        float detLanes[4];
-        float deltaDet4Lanes[4];
-        for (int i = 0; i < 4; ++i) {
-            detLanes[i] = float(det);
-            deltaDet4Lanes[i] = float(4 * deltaDet);
-            det += deltaDet;
-            deltaDet += deltaDeltaDet;
-        }
-        const float deltaDeltaDet16 = float(16 * deltaDeltaDet);
-        const float deltaDeltaDet6 = float(6 * deltaDeltaDet);
-        const float last = float(GradientPositions - 1);
-        for (int done = 0; done < length; done += 4) {
-            for (int i = 0; i < 4; ++i) {
-                const float index = std::sqrt(std::max(0.0f, detLanes[i])) * last + 0.5f;
-                out[done + i] = std::uint16_t(std::min(last, std::max(0.0f, index)));
-                detLanes[i] = (detLanes[i] + deltaDet4Lanes[i]) + deltaDeltaDet6;
-                deltaDet4Lanes[i] += deltaDeltaDet16;
+            if (doublePrecision)
+                stepDouble(det, deltaDet, deltaDeltaDet, count, length);
+            else
+                stepFloat(det, deltaDet, deltaDeltaDet, count, length);
+            // The square roots run apart from the step chains, several at a time.
+            for (int r = 0; r < count; ++r) {
+                std::uint16_t* out = positions.data() + slotOf[r] * stride + x0;
+                if (doublePrecision) {
+                    const double* steps = doubleSteps.data() + std::size_t(r) * RasterChunk;
+                    for (int i = 0; i < length; ++i)
+                        out[i] = positionIndex(std::sqrt(steps[i]) * Last + 0.5);
+                } else {
+                    const float* steps = floatSteps.data() + std::size_t(r) * (RasterChunk + 4);
+                    for (int i = 0; i < length; ++i) {
+                        const float step = steps[i] > 0.0f ? steps[i] : 0.0f;
+                        out[i] = positionIndex(std::sqrt(step) * float(Last) + 0.5f);
+                    }
+                }
             }
         }
     }
+
+    // The 64-bit pipeline: double precision, one pixel at a time.
+    void stepDouble(std::array<double, Rows> det, std::array<double, Rows> deltaDet,
+                    double deltaDeltaDet, int count, int length)
+    {
+        for (int i = 0; i < length; ++i)
+            for (int r = 0; r < count; ++r) {
+                doubleSteps[std::size_t(r) * RasterChunk + std::size_t(i)] = det[r];
+                det[r] += deltaDet[r];
+                deltaDet[r] += deltaDeltaDet;
+            }
+    }
+
+    // The 32-bit pipeline: single precision, four pixels at a time from four seeds.
+    void stepFloat(std::array<double, Rows> det, std::array<double, Rows> deltaDet,
+                   double deltaDeltaDet, int count, int length)
+    {
+        float lanes[Rows][4];
+        float delta4Lanes[Rows][4];
+        for (int r = 0; r < count; ++r)
+            for (int i = 0; i < 4; ++i) {
+                lanes[r][i] = float(det[r]);
+                delta4Lanes[r][i] = float(4 * deltaDet[r]);
+                det[r] += deltaDet[r];
+                deltaDet[r] += deltaDeltaDet;
+            }
+        const float deltaDeltaDet16 = float(16 * deltaDeltaDet);
+        const float deltaDeltaDet6 = float(6 * deltaDeltaDet);
+        for (int done = 0; done < length; done += 4)
+            for (int r = 0; r < count; ++r) {
+                float* steps = floatSteps.data() + std::size_t(r) * (RasterChunk + 4) + done;
+                for (int i = 0; i < 4; ++i) {
+                    steps[i] = lanes[r][i];
+                    lanes[r][i] = (lanes[r][i] + delta4Lanes[r][i]) + deltaDeltaDet6;
+                    delta4Lanes[r][i] += deltaDeltaDet16;
+                }
+            }
+    }
 };
+
+// What the square holds at each gradient position. A one-row strip is painted like the square
+// with a gradient of the same stops centred on its middle, radius half its width, so that the
+// pixels of its right half run through every position about two pixels apiece; the positions
+// are known from RadialPositions, and each pixel shows the square's value for its position.
+std::vector<QRgb> squareValues(QImage::Format format, const QGradientStops& stops, int opacity,
+                               bool doublePrecision)
+{
+    constexpr int Half = 2 * GradientPositions;
+    QRadialGradient gradient(QPointF(Half, 0), Half, QPointF(Half, 0));
+    gradient.setStops(stops);
+    const QImage strip = paintedLikeSquare(QSize(2 * Half, 1), format, gradient, opacity);
+    RadialPositions positions(2 * Half, QPointF(Half, 0), Half, doublePrecision);
+    const std::uint16_t* row = positions.row(0);
+    const QRgb* painted = rowWords(strip, 0);
+    std::vector<QRgb> values(GradientPositions);
+    for (int x = Half; x < 2 * Half; ++x)
+        values[row[x]] = painted[x];
+    return values;
+}
 
 // Which square column and row the stretched drawImage() of the square over a w x h image
 // samples for each image pixel. The texture fetch decides per raster chunk and row between
@@ -493,37 +581,71 @@ QImage vignetteImage(QImage& image, int radius, int opacity, QColor colour)
     const qint64 gradientRadius = qint64(radius) * squareSize / 100;
     const QGradientStops stops = vignetteStops(colour);
 
-    const std::vector<QRgb> values = squareValues(format, stops, opacity);
+    const bool doublePrecision = format == QImage::Format_ARGB32;
+    const std::vector<QRgb> values = squareValues(format, stops, opacity, doublePrecision);
     // A gradient of radius 0 paints transparent black: the same painting on one pixel shows
     // what the square then holds.
     QRadialGradient degenerateGradient(QPointF(0.5, 0.5), 0, QPointF(0.5, 0.5));
     degenerateGradient.setStops(stops);
     const QRgb degenerate =
         rowWords(paintedLikeSquare(QSize(1, 1), format, degenerateGradient, opacity), 0)[0];
-    RadialPositions positions(squareSize, centre, double(gradientRadius),
-                              format == QImage::Format_ARGB32);
+    RadialPositions positions(squareSize, QPointF(centre, centre), double(gradientRadius),
+                              doublePrecision);
     const StretchSampling sampling(w, h, squareSize, format);
+    // A landscape image samples every square column in order.
+    const auto keepsColumns = [w](const std::vector<int>& columns) {
+        if (columns.size() != std::size_t(w))
+            return false;
+        for (int x = 0; x < w; ++x)
+            if (columns[std::size_t(x)] != x)
+                return false;
+        return true;
+    };
+    const bool columnsKept[] = {keepsColumns(sampling.columns(false)),
+                                keepsColumns(sampling.columns(true))};
 
-    // Bands of square values, drawn unstretched: the blend per pixel is the one the stretched
-    // drawing would make with the same square pixel.
-    constexpr int BandRows = 32;
+    // The image is painted band by band. A shared image is not detached first (a copy of the
+    // whole image, then a second pass to paint it): each band of the new image is copied from
+    // the source right before it is painted, while it is in the cache.
+    const bool inPlace = image.isDetached();
+    QImage target = inPlace ? QImage() : blankCopy(image);
+    if (!inPlace && target.isNull())
+        return image;
+    uchar* targetBits = inPlace ? image.bits() : target.bits();
+    const qsizetype stride = image.bytesPerLine();
+
+    // Square values drawn unstretched: the blend per pixel is the one the stretched drawing
+    // makes with the same square pixel.
+    constexpr int BandRows = 16;
     const QImage::Format bandFormat =
         format == QImage::Format_ARGB32 ? format : QImage::Format_ARGB32_Premultiplied;
     QImage band(w, std::min(BandRows, h), bandFormat);
     if (band.isNull())
         return image;
-    QPainter painter(&image);
     for (int y0 = 0; y0 < h; y0 += BandRows) {
         const int rows = std::min(BandRows, h - y0);
         for (int r = 0; r < rows; ++r) {
+            if (r % RadialPositions::Rows == 0 && !positions.degenerate()) {
+                // The next few rows' positions are computed together.
+                const int group = std::min(RadialPositions::Rows, rows - r);
+                int squareRows[RadialPositions::Rows];
+                for (int i = 0; i < group; ++i)
+                    squareRows[i] = sampling.rowsByChunk[0][std::size_t(y0 + r + i)].square;
+                positions.prepare(squareRows, group);
+            }
             QRgb* out = rowWords(band, r);
             for (int x0 = 0, chunk = 0; x0 < w; x0 += RasterChunk, ++chunk) {
                 const int x1 = std::min(w, x0 + RasterChunk);
+                if (positions.degenerate()) {
+                    std::fill(out + x0, out + x1, degenerate);
+                    continue;
+                }
                 const StretchSampling::Row sample =
                     sampling.rowsByChunk[std::size_t(chunk)][std::size_t(y0 + r)];
                 const std::uint16_t* row = positions.row(sample.square);
-                if (!row) {
-                    std::fill(out + x0, out + x1, degenerate);
+                if (columnsKept[sample.fixedPoint]) {
+                    for (int x = x0; x < x1; ++x)
+                        out[x] = values[row[x]];
                     continue;
                 }
                 const std::vector<int>& columns = sampling.columns(sample.fixedPoint);
@@ -531,9 +653,15 @@ QImage vignetteImage(QImage& image, int radius, int opacity, QColor colour)
                     out[x] = values[row[columns[std::size_t(x)]]];
             }
         }
-        painter.drawImage(QPoint(0, y0), band, QRect(0, 0, w, rows));
+        uchar* bandBits = targetBits + y0 * stride;
+        if (!inPlace)
+            std::memcpy(bandBits, image.constBits() + y0 * stride, std::size_t(rows * stride));
+        QImage view(bandBits, w, rows, stride, format);
+        QPainter painter(&view);
+        painter.drawImage(QPoint(0, 0), band, QRect(0, 0, w, rows));
     }
-    painter.end();
+    if (!inPlace)
+        image = target;
     return image;
 }
 

@@ -1,6 +1,7 @@
 // Helpers shared by the kernel sources; not part of the library's interface.
 #pragma once
 
+#include <QColorSpace>
 #include <QImage>
 
 #include <climits>
@@ -32,6 +33,24 @@ inline int truncToInt(double value)
     if (value >= double(INT_MAX))
         return INT_MAX;
     return int(value);
+}
+
+// An image as QImage::copy() would make it (size, format, resolution, texts), with pixels left
+// for the caller to write: reading the source and writing the result in one pass is half the
+// memory traffic of copying first and changing the copy in place.
+inline QImage blankCopy(const QImage& source)
+{
+    QImage result(source.size(), source.format());
+    if (result.isNull())
+        return result;
+    result.setDotsPerMeterX(source.dotsPerMeterX());
+    result.setDotsPerMeterY(source.dotsPerMeterY());
+    result.setOffset(source.offset());
+    result.setColorSpace(source.colorSpace());
+    const QStringList keys = source.textKeys();
+    for (const QString& key : keys)
+        result.setText(key, source.text(key));
+    return result;
 }
 
 inline QRgb* rowWords(QImage& image, int y)

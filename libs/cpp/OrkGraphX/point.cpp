@@ -2,8 +2,6 @@
 
 #include "pixelwords.h"
 
-#include <QColorSpace>
-
 #include <array>
 #include <cmath>
 #include <cstdlib>
@@ -13,24 +11,6 @@ namespace OrkGraphX {
 using namespace PixelWords;
 
 namespace {
-
-// An image as QImage::copy() would make it (size, format, resolution, texts), with pixels left
-// for the caller to write: reading the source and writing the result in one pass is half the
-// memory traffic of copying first and changing the copy in place.
-QImage blankCopy(const QImage& source)
-{
-    QImage result(source.size(), source.format());
-    if (result.isNull())
-        return result;
-    result.setDotsPerMeterX(source.dotsPerMeterX());
-    result.setDotsPerMeterY(source.dotsPerMeterY());
-    result.setOffset(source.offset());
-    result.setColorSpace(source.colorSpace());
-    const QStringList keys = source.textKeys();
-    for (const QString& key : keys)
-        result.setText(key, source.text(key));
-    return result;
-}
 
 // Runs wordFunction over every pixel word of the image into a new image.
 template <typename WordFunction> QImage mapWords(const QImage& image, WordFunction wordFunction)

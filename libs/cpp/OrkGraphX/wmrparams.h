@@ -11,13 +11,13 @@ namespace OrkGraphX {
 
 struct WMRParams
 {
-    int Mode = 0;         // 0 text, 1 logo; anything else leaves the image alone
-    QString Text;         // the watermark text
-    int XOffset = 0;      // percent of the image height, positive moves right
-    int YOffset = 0;      // percent of the image height, positive moves up
-    QFont Font;           // family and attributes of the text font
-    bool Bold = false;    // weight 75 when set, else 50
-    bool Italic = false;  // font style italic
+    int Mode = 0;        // 0 text, 1 logo; anything else leaves the image alone
+    QString Text;        // the watermark text
+    int XOffset = 0;     // percent of the image height, positive moves right
+    int YOffset = 0;     // percent of the image height, positive moves up
+    QFont Font;          // family and attributes of the text font
+    bool Bold = false;   // weight 75 when set, else 50
+    bool Italic = false; // font style italic
     bool Underlined = false;
     int Size = 0;         // width of the text or logo in percent of the image width
     int Position = 0;     // grid cell 0..8, "TopLeft" .. "BottomRight" in reading order
@@ -25,8 +25,8 @@ struct WMRParams
     QColor Color;         // text colour
     QColor Background;    // colour of the box behind the text
     bool BackgroundEnabled = false;
-    bool Expand = false;  // logo mode: stretch the logo over the whole image
-    QImage ImageData;     // the logo picture
+    bool Expand = false; // logo mode: stretch the logo over the whole image
+    QImage ImageData;    // the logo picture
 };
 
 } // namespace OrkGraphX
