@@ -5,6 +5,8 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace OrkGraphX {
 
@@ -41,61 +43,135 @@ struct WordTransfer
     }
 };
 
-// Square tiles keep both the rows read and the rows written of a turn in the cache.
+// Square tiles keep both the rows read and the rows written of a turn in the cache; inside a
+// tile, 4 x 4 blocks of words are turned in vector registers.
 constexpr int TileSize = 64;
 
-// result(x, y) = source(sourceX(x, y), sourceY(x, y)) for a quarter turn whose source column or
-// row runs one place too far: column 0 (right turn) or row 0 (left turn) of the result is out
-// of range; the rest is a transposition walked tile by tile.
+using Words4 = std::uint32_t __attribute__((vector_size(16)));
+
+inline Words4 loadWords(const QRgb* words)
+{
+    Words4 v;
+    std::memcpy(&v, words, sizeof v);
+    return v;
+}
+
+inline void storeWords(QRgb* words, Words4 v)
+{
+    std::memcpy(words, &v, sizeof v);
+}
+
+// The rows a, b, c, d of a 4 x 4 block become its columns.
+inline void transpose(Words4& a, Words4& b, Words4& c, Words4& d)
+{
+    const Words4 ab0 = __builtin_shufflevector(a, b, 0, 4, 1, 5);
+    const Words4 ab1 = __builtin_shufflevector(a, b, 2, 6, 3, 7);
+    const Words4 cd0 = __builtin_shufflevector(c, d, 0, 4, 1, 5);
+    const Words4 cd1 = __builtin_shufflevector(c, d, 2, 6, 3, 7);
+    a = __builtin_shufflevector(ab0, cd0, 0, 1, 4, 5);
+    b = __builtin_shufflevector(ab0, cd0, 2, 3, 6, 7);
+    c = __builtin_shufflevector(ab1, cd1, 0, 1, 4, 5);
+    d = __builtin_shufflevector(ab1, cd1, 2, 3, 6, 7);
+}
+
+// A quarter turn whose source column or row runs one place too far: column 0 (right turn) or
+// row 0 (left turn) of the result lies outside the source; the rest is a transposition.
+class QuarterTurn
+{
+public:
+    QuarterTurn(const QImage& source, QImage& result, bool clockwise)
+        : transfer(source.format())
+        , sourceBits(source.constBits())
+        , sourceStride(source.bytesPerLine())
+        , resultBits(result.bits())
+        , resultStride(result.bytesPerLine())
+        , w(source.width())
+        , h(source.height())
+        , clockwise(clockwise)
+    {
+    }
+
+    void run()
+    {
+        if (clockwise) {
+            // result(x, y) = source(y, h - x); x = 0 reads row h.
+            for (int y = 0; y < w; ++y)
+                resultRow(y)[0] = transfer.outOfRange();
+            tiles(1, h, 0, w);
+        } else {
+            // result(x, y) = source(w - y, x); y = 0 reads column w.
+            std::fill_n(resultRow(0), h, transfer.outOfRange());
+            tiles(0, h, 1, w);
+        }
+    }
+
+private:
+    WordTransfer transfer;
+    const uchar* sourceBits = nullptr;
+    qsizetype sourceStride = 0;
+    uchar* resultBits = nullptr;
+    qsizetype resultStride = 0;
+    int w = 0;
+    int h = 0;
+    bool clockwise = true;
+
+    const QRgb* sourceRow(int y) const
+    {
+        return reinterpret_cast<const QRgb*>(sourceBits + y * sourceStride);
+    }
+    QRgb* resultRow(int y) const { return reinterpret_cast<QRgb*>(resultBits + y * resultStride); }
+
+    QRgb sourceFor(int x, int y) const
+    {
+        return clockwise ? sourceRow(h - x)[y] : sourceRow(x)[w - y];
+    }
+
+    // Result columns x0..x1-1 and rows y0..y1-1.
+    void tiles(int x0, int x1, int y0, int y1)
+    {
+        for (int ty = y0; ty < y1; ty += TileSize)
+            for (int tx = x0; tx < x1; tx += TileSize)
+                tile(tx, std::min(x1, tx + TileSize), ty, std::min(y1, ty + TileSize));
+    }
+
+    void tile(int x0, int x1, int y0, int y1)
+    {
+        const int xBlocks = x0 + (x1 - x0) / 4 * 4;
+        const int yBlocks = y0 + (y1 - y0) / 4 * 4;
+        for (int y = y0; y < yBlocks; y += 4)
+            for (int x = x0; x < xBlocks; x += 4)
+                block(x, y);
+        for (int y = y0; y < y1; ++y) {
+            QRgb* to = resultRow(y);
+            for (int x = y < yBlocks ? xBlocks : x0; x < x1; ++x)
+                to[x] = transfer(sourceFor(x, y));
+        }
+    }
+
+    void block(int x, int y)
+    {
+        Words4 rows[4];
+        for (int k = 0; k < 4; ++k) {
+            if (clockwise) {
+                rows[k] = loadWords(sourceRow(h - x - k) + y);
+            } else {
+                // Columns w - y - 3 .. w - y, reversed so that result row y comes first.
+                const Words4 v = loadWords(sourceRow(x + k) + (w - y - 3));
+                rows[k] = __builtin_shufflevector(v, v, 3, 2, 1, 0);
+            }
+        }
+        transpose(rows[0], rows[1], rows[2], rows[3]);
+        for (int k = 0; k < 4; ++k)
+            storeWords(resultRow(y + k) + x, rows[k] | transfer.orMask);
+    }
+};
+
 QImage quarterTurn(QImage& image, bool clockwise)
 {
     const QImage source = wordImage(image);
-    const int w = source.width();
-    const int h = source.height();
-    QImage result(h, w, source.format());
-    if (result.isNull())
-        return result;
-    const WordTransfer transfer(source.format());
-    const uchar* sourceBits = source.constBits();
-    const qsizetype sourceStride = source.bytesPerLine();
-    uchar* resultBits = result.bits();
-    const qsizetype resultStride = result.bytesPerLine();
-    const auto sourceRow = [=](int y) {
-        return reinterpret_cast<const QRgb*>(sourceBits + y * sourceStride);
-    };
-    const auto resultRow = [=](int y) {
-        return reinterpret_cast<QRgb*>(resultBits + y * resultStride);
-    };
-    if (clockwise) {
-        // result(x, y) = source(y, h - x); x = 0 reads row h.
-        for (int y = 0; y < w; ++y)
-            resultRow(y)[0] = transfer.outOfRange();
-        for (int x0 = 1; x0 < h; x0 += TileSize) {
-            const int x1 = std::min(h, x0 + TileSize);
-            for (int y0 = 0; y0 < w; y0 += TileSize) {
-                const int y1 = std::min(w, y0 + TileSize);
-                for (int x = x0; x < x1; ++x) {
-                    const QRgb* from = sourceRow(h - x);
-                    for (int y = y0; y < y1; ++y)
-                        resultRow(y)[x] = transfer(from[y]);
-                }
-            }
-        }
-    } else {
-        // result(x, y) = source(w - y, x); y = 0 reads column w.
-        std::fill_n(resultRow(0), h, transfer.outOfRange());
-        for (int x0 = 0; x0 < h; x0 += TileSize) {
-            const int x1 = std::min(h, x0 + TileSize);
-            for (int y0 = 1; y0 < w; y0 += TileSize) {
-                const int y1 = std::min(w, y0 + TileSize);
-                for (int x = x0; x < x1; ++x) {
-                    const QRgb* from = sourceRow(x);
-                    for (int y = y0; y < y1; ++y)
-                        resultRow(y)[x] = transfer(from[w - y]);
-                }
-            }
-        }
-    }
+    QImage result(source.height(), source.width(), source.format());
+    if (!result.isNull())
+        QuarterTurn(source, result, clockwise).run();
     return result;
 }
 
