@@ -334,28 +334,41 @@ void TestGeometricKernels::frameFollowsThePixelRule()
 
 void TestGeometricKernels::mirror_data()
 {
+    QTest::addColumn<QImage>("image");
     QTest::addColumn<bool>("horizontal");
     QTest::addColumn<bool>("vertical");
-    QTest::addColumn<QRgb>("topLeft");
-    // A 2 x 2 image: 1 2 / 3 4.
-    QTest::newRow("horizontal") << true << false << 2u;
-    QTest::newRow("vertical") << false << true << 3u;
-    QTest::newRow("both") << true << true << 4u;
-    QTest::newRow("neither") << false << false << 1u;
+    const bool flags[][2] = {{true, false}, {false, true}, {true, true}, {false, false}};
+    for (QImage::Format format : wordFormats)
+        for (const auto& f : flags) {
+            QImage image = testImage(37, 11, format);
+            image.setDotsPerMeterX(5000);
+            image.setText("Author", "Test");
+            QTest::addRow("%s%s %s", f[0] ? "horizontal" : "", f[1] ? " vertical" : "",
+                          formatName(format))
+                << image << f[0] << f[1];
+        }
+    QTest::newRow("Grayscale8 through Qt")
+        << testImage(9, 4, QImage::Format_Grayscale8) << true << false;
 }
 
 void TestGeometricKernels::mirror()
 {
+    QFETCH(QImage, image);
     QFETCH(bool, horizontal);
     QFETCH(bool, vertical);
-    QFETCH(QRgb, topLeft);
-    QImage image(2, 2, QImage::Format_ARGB32);
-    image.setPixel(0, 0, 1);
-    image.setPixel(1, 0, 2);
-    image.setPixel(0, 1, 3);
-    image.setPixel(1, 1, 4);
-    QCOMPARE(word(OrkGraphX::mirrorImage(image, horizontal, vertical), 0, 0), topLeft);
-    QCOMPARE(word(image, 0, 0), 1u);
+    const QImage expected = image.mirrored(horizontal, vertical);
+    const QImage result = OrkGraphX::mirrorImage(image, horizontal, vertical);
+    QCOMPARE(result.format(), expected.format());
+    QCOMPARE_IMAGES(result, expected);
+    QCOMPARE(result.dotsPerMeterX(), expected.dotsPerMeterX());
+    QCOMPARE(result.text("Author"), expected.text("Author"));
+    // A 2 x 2 image 1 2 / 3 4 by hand.
+    QImage small(2, 2, QImage::Format_ARGB32);
+    const QRgb words[] = {1, 2, 3, 4};
+    for (int i = 0; i < 4; ++i)
+        small.setPixel(i % 2, i / 2, words[i]);
+    const QRgb topLeft = horizontal ? (vertical ? 4 : 2) : (vertical ? 3 : 1);
+    QCOMPARE(word(OrkGraphX::mirrorImage(small, horizontal, vertical), 0, 0), topLeft);
 }
 
 void TestGeometricKernels::resize_data()

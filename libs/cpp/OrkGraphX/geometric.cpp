@@ -166,6 +166,18 @@ private:
     }
 };
 
+// to[i] = from[count - 1 - i] | orMask, four words at a time.
+void copyReversed(const QRgb* from, QRgb* to, int count, QRgb orMask)
+{
+    int i = 0;
+    for (; i + 4 <= count; i += 4) {
+        const Words4 v = loadWords(from + (count - 4 - i));
+        storeWords(to + i, __builtin_shufflevector(v, v, 3, 2, 1, 0) | orMask);
+    }
+    for (; i < count; ++i)
+        to[i] = from[count - 1 - i] | orMask;
+}
+
 QImage quarterTurn(QImage& image, bool clockwise)
 {
     const QImage source = wordImage(image);
@@ -233,11 +245,9 @@ QImage rotate180(QImage& image)
     const WordTransfer transfer(source.format());
     std::fill_n(rowWords(result, 0), w, transfer.outOfRange());
     for (int y = 1; y < h; ++y) {
-        const QRgb* from = rowWords(source, h - y);
         QRgb* to = rowWords(result, y);
         to[0] = transfer.outOfRange();
-        for (int x = 1; x < w; ++x)
-            to[x] = transfer(from[w - x]);
+        copyReversed(rowWords(source, h - y) + 1, to + 1, w - 1, transfer.orMask);
     }
     return result;
 }
@@ -249,7 +259,20 @@ QImage rotateLeft90(QImage& image)
 
 QImage mirrorImage(QImage& image, bool horizontal, bool vertical)
 {
-    return image.mirrored(horizontal, vertical);
+    if (!isWordFormat(image.format()) || (!horizontal && !vertical))
+        return image.mirrored(horizontal, vertical);
+    // The same words as QImage::mirrored(), four at a time.
+    const QImage& source = image;
+    QImage result = blankCopy(source);
+    for (int y = 0; y < result.height(); ++y) {
+        const QRgb* from = rowWords(source, vertical ? source.height() - 1 - y : y);
+        QRgb* to = rowWords(result, y);
+        if (horizontal)
+            copyReversed(from, to, source.width(), 0);
+        else
+            std::copy_n(from, source.width(), to);
+    }
+    return result;
 }
 
 QImage cropImage(QImage& image, int left, int right, int top, int bottom)

@@ -46,6 +46,7 @@ inline QImage blankCopy(const QImage& source)
     result.setDotsPerMeterX(source.dotsPerMeterX());
     result.setDotsPerMeterY(source.dotsPerMeterY());
     result.setOffset(source.offset());
+    result.setDevicePixelRatio(source.devicePixelRatio());
     result.setColorSpace(source.colorSpace());
     const QStringList keys = source.textKeys();
     for (const QString& key : keys)
