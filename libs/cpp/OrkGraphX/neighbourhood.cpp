@@ -273,9 +273,9 @@ QImage paintedLikeSquare(QSize size, QImage::Format format, const QBrush& brush,
 
 // The gradient position of every pixel of one square row, as Qt's radial gradient fetch computes
 // it for a gradient centred on its focal point: the squared distance divided by the squared
-// radius is stepped incrementally from the start of each chunk. The 32-bit pipeline steps it in
-// single precision four pixels at a time; ARGB32 targets are painted through the 64-bit
-// pipeline, which steps it in double precision pixel by pixel.
+// radius is stepped incrementally from the start of each chunk. For ARGB32 targets Qt steps it
+// in double precision pixel by pixel, for premultiplied and RGB32 targets in single precision
+// four pixels at a time.
 class RadialPositions
 {
 public:
@@ -395,7 +395,7 @@ private:
         }
     }
 
-    // The 64-bit pipeline: double precision, one pixel at a time.
+    // ARGB32 targets: double precision, one pixel at a time.
     void stepDouble(std::array<double, Rows> det, std::array<double, Rows> deltaDet,
                     double deltaDeltaDet, int count, int length)
     {
@@ -407,7 +407,7 @@ private:
             }
     }
 
-    // The 32-bit pipeline: single precision, four pixels at a time from four seeds.
+    // Premultiplied and RGB32 targets: single precision, four pixels at a time from four seeds.
     void stepFloat(std::array<double, Rows> det, std::array<double, Rows> deltaDet,
                    double deltaDeltaDet, int count, int length)
     {
