@@ -85,10 +85,9 @@ void TestPointKernels::brightnessContrastSaturation()
 void TestPointKernels::neutralSettingsKeepEveryPixel_data()
 {
     QTest::addColumn<QImage>("image");
-    QTest::newRow("ARGB32") << KernelImages::noise(97, 61, QImage::Format_ARGB32);
-    QTest::newRow("ARGB32 premultiplied")
-        << KernelImages::noise(97, 61, QImage::Format_ARGB32_Premultiplied, 2);
-    QTest::newRow("RGB32") << KernelImages::noise(97, 61, QImage::Format_RGB32, 3);
+    for (QImage::Format format : KernelImages::wordFormats)
+        QTest::newRow(KernelImages::formatName(format))
+            << KernelImages::noise(97, 61, format, unsigned(format));
 }
 
 void TestPointKernels::neutralSettingsKeepEveryPixel()
@@ -182,11 +181,7 @@ void TestPointKernels::binarize()
 
 void TestPointKernels::invertMatchesQt_data()
 {
-    QTest::addColumn<QImage>("image");
-    QTest::newRow("ARGB32") << KernelImages::noise(40, 30, QImage::Format_ARGB32);
-    QTest::newRow("ARGB32 premultiplied")
-        << KernelImages::noise(40, 30, QImage::Format_ARGB32_Premultiplied, 4);
-    QTest::newRow("RGB32") << KernelImages::noise(40, 30, QImage::Format_RGB32, 5);
+    neutralSettingsKeepEveryPixel_data();
 }
 
 void TestPointKernels::invertMatchesQt()
