@@ -17,12 +17,17 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+void addFramedLayout(QVBoxLayout* options, QLayout* layout)
+{
+    options->addStretch(1);
+    options->addLayout(layout);
+    options->addStretch(1);
+}
+
 QFormLayout* addFramedForm(QVBoxLayout* options)
 {
     auto* form = new QFormLayout;
-    options->addStretch(1);
-    options->addLayout(form);
-    options->addStretch(1);
+    addFramedLayout(options, form);
     return form;
 }
 
@@ -33,9 +38,7 @@ void addCentredRow(QVBoxLayout* options, std::initializer_list<QWidget*> widgets
     for (QWidget* widget : widgets)
         row->addWidget(widget);
     row->addStretch(1);
-    options->addStretch(1);
-    options->addLayout(row);
-    options->addStretch(1);
+    addFramedLayout(options, row);
 }
 
 void applyRange(ComboSlider* slider, const SliderRange& range)

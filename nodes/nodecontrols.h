@@ -15,6 +15,7 @@ class QAbstractButton;
 class QComboBox;
 class QFontComboBox;
 class QFormLayout;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 class QSpinBox;
@@ -45,6 +46,10 @@ struct SliderRange
     int value;
     QString unit;
 };
+
+// The layout between two stretches, appended to the node's options layout: the node's controls
+// stay together in the middle of the options area whatever its height.
+void addFramedLayout(QVBoxLayout* options, QLayout* layout);
 
 // A form layout between two stretches, appended to the node's options layout.
 QFormLayout* addFramedForm(QVBoxLayout* options);

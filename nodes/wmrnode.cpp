@@ -18,17 +18,62 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
 namespace {
 const int textMode = 0;
 const int logoMode = 1;
 const int bothModes = -1;
+const int columnSpacing = 8;
+const int formSpacing = 5;
+const int rowSpacing = 3;
+const bool captionsAbove = true;
+const bool captionsBeside = false;
+const bool packed = true;
+const int fontComboLetters = 6;
 
 // Logos are kept as ARGB32 whatever file or text they came from, so that the preview and the
 // headless form draw the very same pixels.
 QImage asLogo(const QImage& picture)
 {
     return picture.isNull() ? picture : picture.convertToFormat(QImage::Format_ARGB32);
+}
+
+// A form whose captions go above or beside its fields, appended to parent.
+QFormLayout* newForm(QBoxLayout* parent, bool above)
+{
+    auto* form = new QFormLayout;
+    form->setSpacing(formSpacing);
+    if (above)
+        form->setRowWrapPolicy(QFormLayout::WrapAllRows);
+    // Buttons keep their own width instead of filling what the widest row leaves them.
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    parent->addLayout(form);
+    return form;
+}
+
+// The widgets side by side; with keepWidths they keep their own widths and leave the rest empty.
+QHBoxLayout* newRowFields(std::initializer_list<QWidget*> widgets, bool keepWidths)
+{
+    auto* fields = new QHBoxLayout;
+    fields->setSpacing(rowSpacing);
+    for (QWidget* widget : widgets)
+        fields->addWidget(widget);
+    if (keepWidths)
+        fields->addStretch(1);
+    return fields;
+}
+
+// Every widget of the layout and of the layouts inside it.
+void collectWidgets(const QLayout* layout, QVector<QWidget*>& widgets)
+{
+    for (int i = 0; i < layout->count(); ++i) {
+        QLayoutItem* item = layout->itemAt(i);
+        if (QWidget* widget = item->widget())
+            widgets.append(widget);
+        else if (const QLayout* inner = item->layout())
+            collectWidgets(inner, widgets);
+    }
 }
 
 QSpinBox* newOffsetBox(const QString& prefix, const QString& toolTip, QWidget* parent)
@@ -38,6 +83,8 @@ QSpinBox* newOffsetBox(const QString& prefix, const QString& toolTip, QWidget* p
     box->setPrefix(prefix);
     box->setSuffix("%");
     box->setToolTip(toolTip);
+    // Only as narrow as its widest value needs; its preferred width keeps room to spare.
+    box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return box;
 }
 } // namespace
@@ -72,25 +119,41 @@ WMRNode::WMRNode(QWidget* parent)
     setNodeIcon(Name);
     kindCombo->addItem(tr("Text"));
     kindCombo->addItem(tr("Image"));
+    // The widest family name on the machine would otherwise set the width of the whole node.
+    fontCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    fontCombo->setMinimumContentsLength(fontComboLetters);
     browseButton->setCheckable(false);
     logoLine->setReadOnly(true);
     backgroundEnabledBox->setToolTip(tr("Draw the background behind the text"));
 
-    form = addFramedForm(optionsLayout);
-    form->setSpacing(5);
-    addRow(form, tr("Kind:"), newRowBox({kindCombo, shrinkButton}), bothModes, true);
-    addRow(form, tr("Text:"), textEdit, textMode, true);
-    addRow(form, tr("Font:"), newRowBox({fontCombo, boldButton, italicButton, underlinedButton}),
-           textMode, false);
-    addRow(form, tr("Text color:"), colorButton, textMode, false);
-    addRow(form, tr("Background:"), newRowBox({backgroundButton, backgroundEnabledBox}), textMode,
-           false);
-    addRow(form, tr("Logo:"), newRowBox({logoLine, browseButton}), logoMode, true);
-    addRow(form, tr("Size:"), sizeSlider, bothModes, false);
-    addRow(form, tr("Transparency:"), transparencySlider, bothModes, false);
-    addRow(form, tr("Position:"), newRowBox({directions, xOffsetBox, yOffsetBox}), bothModes,
-           false);
-    addRow(form, tr("Expand:"), expandBox, logoMode, false);
+    // Three columns of form rows side by side, so that all rows fit the low, wide options area:
+    // what is drawn, how strongly, and where and how it is laid on. Captions go above the fields
+    // where a caption is wider than its field, so that it does not widen the whole column.
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(columnSpacing);
+    addFramedLayout(optionsLayout, columns);
+    QFormLayout* what = newForm(columns, captionsBeside);
+    addRow(what, tr("Kind:"), newRowFields({kindCombo, shrinkButton}, packed), bothModes, true);
+    addRow(what, tr("Text:"),
+           newRowFields({textEdit, boldButton, italicButton, underlinedButton}, !packed), textMode,
+           true);
+    addRow(what, tr("Font:"), fontCombo, textMode, false);
+    addRow(what, tr("Logo:"), newRowFields({logoLine, browseButton}, !packed), logoMode, true);
+    QFormLayout* strength = newForm(columns, captionsAbove);
+    addRow(strength, tr("Size:"), sizeSlider, bothModes, false);
+    addRow(strength, tr("Transparency:"), transparencySlider, bothModes, false);
+    auto* where = new QVBoxLayout;
+    where->setSpacing(formSpacing);
+    columns->addLayout(where);
+    addRow(newForm(where, captionsBeside), tr("Position:"), newPositionFields(), bothModes, false);
+    auto* colours = new QHBoxLayout;
+    colours->setSpacing(columnSpacing);
+    where->addLayout(colours);
+    where->addStretch(1);
+    addRow(newForm(colours, captionsAbove), tr("Text color:"), colorButton, textMode, false);
+    addRow(newForm(colours, captionsAbove), tr("Background:"),
+           newRowFields({backgroundButton, backgroundEnabledBox}, packed), textMode, false);
+    addRow(newForm(colours, captionsAbove), tr("Expand:"), expandBox, logoMode, false);
     updateRows(textMode);
 
     connect(kindCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -240,18 +303,29 @@ void WMRNode::addRow(QFormLayout* form, const QString& label, QWidget* field, in
                      bool essential)
 {
     form->addRow(label, field);
-    rows.append({field, mode, essential});
+    rows.append({form->labelForField(field), {field}, mode, essential});
 }
 
-QWidget* WMRNode::newRowBox(std::initializer_list<QWidget*> widgets)
+void WMRNode::addRow(QFormLayout* form, const QString& label, QLayout* fields, int mode,
+                     bool essential)
 {
-    auto* box = new QWidget(this);
-    auto* layout = new QHBoxLayout(box);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(3);
-    for (QWidget* widget : widgets)
-        layout->addWidget(widget);
-    return box;
+    form->addRow(label, fields);
+    Row row{form->labelForField(fields), {}, mode, essential};
+    collectWidgets(fields, row.fields);
+    rows.append(row);
+}
+
+QLayout* WMRNode::newPositionFields()
+{
+    auto* offsets = new QVBoxLayout;
+    offsets->setSpacing(0);
+    offsets->addWidget(xOffsetBox);
+    offsets->addWidget(yOffsetBox);
+    auto* fields = new QHBoxLayout;
+    fields->setSpacing(rowSpacing);
+    fields->addWidget(directions);
+    fields->addLayout(offsets);
+    return fields;
 }
 
 void WMRNode::updateRows(int mode)
@@ -259,8 +333,8 @@ void WMRNode::updateRows(int mode)
     for (const Row& row : qAsConst(rows)) {
         const bool visible =
             (row.mode == bothModes || row.mode == mode) && (!compact || row.essential);
-        row.field->setVisible(visible);
-        if (QWidget* label = form->labelForField(row.field))
-            label->setVisible(visible);
+        for (QWidget* field : row.fields)
+            field->setVisible(visible);
+        row.label->setVisible(visible);
     }
 }

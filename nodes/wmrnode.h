@@ -13,6 +13,7 @@ class QCheckBox;
 class QComboBox;
 class QFontComboBox;
 class QFormLayout;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 class QSpinBox;
@@ -64,16 +65,21 @@ public slots:
     void slotShrinkClicked(bool checked);
 
 private:
-    // A row of the form and the kind it belongs to (-1 to both); essential rows stay compact.
+    // A row of one of the forms and the kind it belongs to (-1 to both); essential rows stay in
+    // the compact form.
     struct Row
     {
-        QWidget* field = nullptr;
+        QWidget* label = nullptr;
+        QVector<QWidget*> fields;
         int mode = -1;
         bool essential = false;
     };
 
     void addRow(QFormLayout* form, const QString& label, QWidget* field, int mode, bool essential);
-    QWidget* newRowBox(std::initializer_list<QWidget*> widgets);
+    // A row of several widgets: a layout, so that no extra widget paints a background of its own.
+    void addRow(QFormLayout* form, const QString& label, QLayout* fields, int mode, bool essential);
+    // The picker with the two offsets stacked beside it.
+    QLayout* newPositionFields();
     void updateRows(int mode);
 
     QComboBox* kindCombo = nullptr;
@@ -95,7 +101,6 @@ private:
     QSpinBox* yOffsetBox = nullptr;
     QCheckBox* expandBox = nullptr;
     QImage logo;
-    QFormLayout* form = nullptr;
     QVector<Row> rows;
     bool compact = false;
 };

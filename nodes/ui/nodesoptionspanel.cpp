@@ -21,6 +21,9 @@ NodesOptionsPanel::NodesOptionsPanel(QWidget* parent)
     OrkWidgets::AnimatedLabel* arrow =
         startLabel->addAnimation(":/arrow.gif", QSize(100, 100), Qt::AlignLeft | Qt::AlignBottom);
     arrow->setRepeatDelay(10000);
+    // The picture is drawn for the whole window width; the panel inside the window's border is
+    // a few pixels narrower and shows it centred, so the picture must not set the panel's size.
+    startLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     stack->addWidget(startLabel);
     setMinimumHeight(175);
     auto* layout = new QVBoxLayout(this);
