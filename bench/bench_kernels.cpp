@@ -80,7 +80,8 @@ public:
     };
 
     // The kernel, the copy and the reference run in turn and the ratios are taken per round,
-    // so that load from other programs on the machine weighs on both sides alike.
+    // so that load from other programs on the machine weighs on both sides alike; the order
+    // flips every round, as each run also frees the image of the run before it.
     Figures measure(const Call& kernel, const Call& reference = Call())
     {
         const Call copyCall = [this](QImage& image) { return copy(image); };
@@ -91,12 +92,18 @@ public:
             run(reference);
         QElapsedTimer total;
         total.start();
-        while (times.size() < 7 || (times.size() < 15 && total.elapsed() < 2500)) {
-            const double ms = run(kernel);
-            times.push_back(ms);
-            copyRatios.push_back(ms / run(copyCall));
+        while (times.size() < 8 || (times.size() < 16 && total.elapsed() < 2500)) {
+            const bool kernelFirst = times.size() % 2 == 0;
+            const double referenceFirstMs = !kernelFirst && reference ? run(reference) : 0;
+            const double ms = kernelFirst ? run(kernel) : 0;
+            const double copyMs = run(copyCall);
+            const double kernelMs = kernelFirst ? ms : run(kernel);
+            const double referenceMs =
+                reference ? (kernelFirst ? run(reference) : referenceFirstMs) : 0;
+            times.push_back(kernelMs);
+            copyRatios.push_back(kernelMs / copyMs);
             if (reference)
-                referenceRatios.push_back(ms / run(reference));
+                referenceRatios.push_back(kernelMs / referenceMs);
         }
         return {median(times), median(copyRatios), reference ? median(referenceRatios) : 0.0};
     }
