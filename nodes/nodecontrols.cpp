@@ -17,6 +17,10 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+namespace {
+const int roomySliderWidth = 240;
+} // namespace
+
 void addFramedLayout(QVBoxLayout* options, QLayout* layout)
 {
     options->addStretch(1);
@@ -80,6 +84,8 @@ ComboSlider* addSliderRow(BaseNode* node, QFormLayout* form, const QString& labe
                           const SliderRange& range)
 {
     ComboSlider* slider = newSlider(node, range);
+    // A node made of a few slider rows has the options area to itself: room for a fine grip.
+    slider->setMinimumWidth(roomySliderWidth);
     form->addRow(label, slider);
     return slider;
 }
