@@ -283,12 +283,16 @@ public:
     // independent chains keep the processor busy.
     static constexpr int Rows = 4;
 
-    RadialPositions(int width, QPointF centre, double radius, bool doublePrecision)
+    // Below sameValueLimit the squared distance maps to positions that all show the value of
+    // position 0, so those pixels may be given position 0 (0 turns this off).
+    RadialPositions(int width, QPointF centre, double radius, bool doublePrecision,
+                    double sameValueLimit = 0)
         : size(width)
         , stride(std::size_t(width) + 4)
         , centre(centre)
         , a(radius * radius)
         , doublePrecision(doublePrecision)
+        , sameValueLimit(sameValueLimit)
         , positions(stride * Rows)
         , doubleSteps(std::size_t(RasterChunk) * Rows)
         , floatSteps(std::size_t(RasterChunk + 4) * Rows)
@@ -342,6 +346,7 @@ private:
     QPointF centre;
     double a = 0;
     bool doublePrecision = false;
+    double sameValueLimit = 0;
     std::array<int, Rows> held{-1, -1, -1, -1};
     std::vector<std::uint16_t> positions;
     std::vector<double> doubleSteps;
@@ -349,10 +354,40 @@ private:
 
     static constexpr int Last = GradientPositions - 1;
 
-    // trunc(scaled) within 0..1023, as Qt clamps the converted position.
-    template <typename Real> static std::uint16_t positionIndex(Real scaled)
+    // Positions from the stepped squared distances. Runs of pixels wholly past the radius
+    // (position 1023) or wholly inside the part where every position shows the same value
+    // skip the square roots.
+    template <typename Real> void indices(const Real* steps, std::uint16_t* out, int length) const
     {
-        return std::uint16_t(scaled > 0 ? (scaled < Real(Last) ? scaled : Real(Last)) : 0);
+        constexpr int Run = 32;
+        const Real innerLimit = Real(sameValueLimit);
+        int i = 0;
+        for (; i + Run <= length; i += Run) {
+            int outer = 0;
+            int inner = 0;
+            for (int k = 0; k < Run; ++k) {
+                outer += steps[i + k] >= Real(1);
+                inner += steps[i + k] < innerLimit;
+            }
+            if (outer == Run || inner == Run)
+                std::fill_n(out + i, Run, std::uint16_t(outer == Run ? Last : 0));
+            else
+                computeIndices(steps + i, out + i, Run);
+        }
+        computeIndices(steps + i, out + i, length - i);
+    }
+
+    // trunc(sqrt(step) · 1023 + 0.5) within 0..1023, as Qt clamps the converted position. A
+    // step is at most 2 S² / R², so the converted value always fits an int.
+    template <typename Real>
+    static void computeIndices(const Real* steps, std::uint16_t* out, int count)
+    {
+        for (int k = 0; k < count; ++k) {
+            const Real value = steps[k];
+            const Real step = value > Real(0) ? value : Real(0);
+            const int index = int(std::sqrt(step) * Real(Last) + Real(0.5));
+            out[k] = std::uint16_t(index < Last ? index : Last);
+        }
     }
 
     void compute(const int* rows, const std::size_t* slotOf, int count)
@@ -373,64 +408,69 @@ private:
                 deltaDet[r] = (4 * a * (2 * rx + 1)) * invA;
                 deltaDeltaDet = (4 * a * 2) * invA;
             }
-            if (doublePrecision)
-                stepDouble(det, deltaDet, deltaDeltaDet, count, length);
+            // Four rows at once in the common case, so that the chains stay in registers.
+            if (doublePrecision && count == Rows)
+                stepDouble<Rows>(det, deltaDet, deltaDeltaDet, length);
+            else if (doublePrecision)
+                stepDouble<1>(det, deltaDet, deltaDeltaDet, length, count);
+            else if (count == Rows)
+                stepFloat<Rows>(det, deltaDet, deltaDeltaDet, length);
             else
-                stepFloat(det, deltaDet, deltaDeltaDet, count, length);
+                stepFloat<1>(det, deltaDet, deltaDeltaDet, length, count);
             // The square roots run apart from the step chains, several at a time.
             for (int r = 0; r < count; ++r) {
                 std::uint16_t* out = positions.data() + slotOf[r] * stride + x0;
-                if (doublePrecision) {
-                    const double* steps = doubleSteps.data() + std::size_t(r) * RasterChunk;
-                    for (int i = 0; i < length; ++i)
-                        out[i] = positionIndex(std::sqrt(steps[i]) * Last + 0.5);
-                } else {
-                    const float* steps = floatSteps.data() + std::size_t(r) * (RasterChunk + 4);
-                    for (int i = 0; i < length; ++i) {
-                        const float step = steps[i] > 0.0f ? steps[i] : 0.0f;
-                        out[i] = positionIndex(std::sqrt(step) * float(Last) + 0.5f);
-                    }
-                }
+                if (doublePrecision)
+                    indices(doubleSteps.data() + std::size_t(r) * RasterChunk, out, length);
+                else
+                    indices(floatSteps.data() + std::size_t(r) * (RasterChunk + 4), out, length);
             }
         }
     }
 
-    // ARGB32 targets: double precision, one pixel at a time.
+    // ARGB32 targets: double precision, one pixel at a time. Count rows are stepped together,
+    // the rows count in all, Count at a time.
+    template <int Count>
     void stepDouble(std::array<double, Rows> det, std::array<double, Rows> deltaDet,
-                    double deltaDeltaDet, int count, int length)
+                    double deltaDeltaDet, int length, int rows = Count)
     {
-        for (int i = 0; i < length; ++i)
-            for (int r = 0; r < count; ++r) {
-                doubleSteps[std::size_t(r) * RasterChunk + std::size_t(i)] = det[r];
-                det[r] += deltaDet[r];
-                deltaDet[r] += deltaDeltaDet;
-            }
+        for (int first = 0; first < rows; first += Count)
+            for (int i = 0; i < length; ++i)
+                for (int r = first; r < first + Count; ++r) {
+                    doubleSteps[std::size_t(r) * RasterChunk + std::size_t(i)] = det[r];
+                    det[r] += deltaDet[r];
+                    deltaDet[r] += deltaDeltaDet;
+                }
     }
 
     // Premultiplied and RGB32 targets: single precision, four pixels at a time from four seeds.
+    template <int Count>
     void stepFloat(std::array<double, Rows> det, std::array<double, Rows> deltaDet,
-                   double deltaDeltaDet, int count, int length)
+                   double deltaDeltaDet, int length, int rows = Count)
     {
-        float lanes[Rows][4];
-        float delta4Lanes[Rows][4];
-        for (int r = 0; r < count; ++r)
-            for (int i = 0; i < 4; ++i) {
-                lanes[r][i] = float(det[r]);
-                delta4Lanes[r][i] = float(4 * deltaDet[r]);
-                det[r] += deltaDet[r];
-                deltaDet[r] += deltaDeltaDet;
-            }
         const float deltaDeltaDet16 = float(16 * deltaDeltaDet);
         const float deltaDeltaDet6 = float(6 * deltaDeltaDet);
-        for (int done = 0; done < length; done += 4)
-            for (int r = 0; r < count; ++r) {
-                float* steps = floatSteps.data() + std::size_t(r) * (RasterChunk + 4) + done;
+        for (int first = 0; first < rows; first += Count) {
+            float lanes[Count][4];
+            float delta4Lanes[Count][4];
+            for (int r = 0; r < Count; ++r)
                 for (int i = 0; i < 4; ++i) {
-                    steps[i] = lanes[r][i];
-                    lanes[r][i] = (lanes[r][i] + delta4Lanes[r][i]) + deltaDeltaDet6;
-                    delta4Lanes[r][i] += deltaDeltaDet16;
+                    lanes[r][i] = float(det[first + r]);
+                    delta4Lanes[r][i] = float(4 * deltaDet[first + r]);
+                    det[first + r] += deltaDet[first + r];
+                    deltaDet[first + r] += deltaDeltaDet;
                 }
-            }
+            for (int done = 0; done < length; done += 4)
+                for (int r = 0; r < Count; ++r) {
+                    float* steps =
+                        floatSteps.data() + std::size_t(first + r) * (RasterChunk + 4) + done;
+                    for (int i = 0; i < 4; ++i) {
+                        steps[i] = lanes[r][i];
+                        lanes[r][i] = (lanes[r][i] + delta4Lanes[r][i]) + deltaDeltaDet6;
+                        delta4Lanes[r][i] += deltaDeltaDet16;
+                    }
+                }
+        }
     }
 };
 
@@ -589,8 +629,14 @@ QImage vignetteImage(QImage& image, int radius, int opacity, QColor colour)
     degenerateGradient.setStops(stops);
     const QRgb degenerate =
         rowWords(paintedLikeSquare(QSize(1, 1), format, degenerateGradient, opacity), 0)[0];
+    // Positions up to k all show the same value; a squared distance below ((k + 0.25) / 1023)²
+    // gives a position of at most k, a quarter position clear of any rounding.
+    int sameValues = 0;
+    while (sameValues + 1 < GradientPositions && values[sameValues + 1] == values[0])
+        ++sameValues;
+    const double sameValueLimit = std::pow((sameValues + 0.25) / (GradientPositions - 1), 2);
     RadialPositions positions(squareSize, QPointF(centre, centre), double(gradientRadius),
-                              doublePrecision);
+                              doublePrecision, sameValueLimit);
     const StretchSampling sampling(w, h, squareSize, format);
     // A landscape image samples every square column in order.
     const auto keepsColumns = [w](const std::vector<int>& columns) {
