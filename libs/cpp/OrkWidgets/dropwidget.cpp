@@ -18,28 +18,32 @@ DropWidget::DropWidget(QWidget* parent)
     setAcceptDrops(true);
     setWindowTitle(QCoreApplication::applicationName());
 
+    // The caption and the button sit inside the drawn frame, below its glyph.
     picture = new QLabel(this);
     picture->setObjectName("DropWidgetPicture");
-    picture->setAlignment(Qt::AlignCenter);
+    picture->setFixedSize(360, 360);
     picture->setPixmap(QPixmap(":/droparea.png"));
 
-    caption = new QLabel(tr("<H2>Drop the photos here</H2>"), this);
+    caption = new QLabel(tr("<H2>Drop the photos here</H2>"), picture);
     caption->setObjectName("DropWidgetCaption");
     caption->setAlignment(Qt::AlignCenter);
 
-    openButton = new QPushButton(QIcon(":/openfiles.png"), tr("Click to open the photos"), this);
+    openButton = new QPushButton(QIcon(":/openfiles.png"), tr("Click to open the photos"), picture);
     openButton->setObjectName("PushButton");
     openButton->setFixedHeight(32);
     connect(openButton, &QPushButton::clicked, this, &DropWidget::slotOpenClicked);
 
+    auto* inner = new QVBoxLayout(picture);
+    inner->setContentsMargins(16, 16, 16, 16);
+    inner->setSpacing(12);
+    inner->addStretch(4);
+    inner->addWidget(caption);
+    inner->addWidget(openButton, 0, Qt::AlignHCenter);
+    inner->addStretch(1);
+
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 12, 12, 12);
-    layout->setSpacing(8);
-    layout->addStretch(1);
-    layout->addWidget(picture);
-    layout->addWidget(caption);
-    layout->addWidget(openButton, 0, Qt::AlignHCenter);
-    layout->addStretch(1);
+    layout->setContentsMargins(20, 20, 20, 20);
+    layout->addWidget(picture, 0, Qt::AlignCenter);
 }
 
 void DropWidget::dragEnterEvent(QDragEnterEvent* event)
