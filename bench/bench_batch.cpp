@@ -3,6 +3,7 @@
 //   bench_batch [PHOTO_FOLDER] [FLOW_FILE] [FORMAT] [QUALITY]
 //   (defaults: /tmp/pelodine-corpus/photos, Resize 50 % and a text Watermark, JPEG, 90)
 #include "batchengine.h"
+#include "benchsupport.h"
 #include "flowfile.h"
 #include "nodecatalogue.h"
 #include "outputnaming.h"
@@ -11,14 +12,12 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QImageWriter>
 #include <QMap>
 #include <QSaveFile>
 #include <QTemporaryDir>
 #include <QTextStream>
 
-#include <algorithm>
 #include <numeric>
 
 namespace {
@@ -49,35 +48,18 @@ const char defaultFlow[] = "<OperationsFlow>\n"
                            " </Operation>\n"
                            "</OperationsFlow>\n";
 
-double median(QVector<double> values)
-{
-    if (values.isEmpty())
-        return 0;
-    std::sort(values.begin(), values.end());
-    const int middle = values.size() / 2;
-    return values.size() % 2 ? values.at(middle) : (values.at(middle - 1) + values.at(middle)) / 2;
-}
-
 double sum(const QVector<double>& values)
 {
     return std::accumulate(values.begin(), values.end(), 0.0);
 }
 
-// Milliseconds spent in step.
-template <typename Step> double timed(Step step)
-{
-    QElapsedTimer timer;
-    timer.start();
-    step();
-    return timer.nsecsElapsed() / 1e6;
-}
-
 } // namespace
+
+using namespace BenchSupport;
 
 int main(int argc, char* argv[])
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenUnlessPlatformSet();
     QApplication app(argc, argv);
     QApplication::setOrganizationName("Qubrast");
     QApplication::setApplicationName("Pelodine");
@@ -113,20 +95,20 @@ int main(int argc, char* argv[])
     for (const QString& photo : photos) {
         QImage image;
         int step = 0;
-        times[steps.at(step++)] << timed([&] { image = PhotoFiles::read(photo); });
-        times[steps.at(step++)] << timed(
+        times[steps.at(step++)] << milliseconds([&] { image = PhotoFiles::read(photo); });
+        times[steps.at(step++)] << milliseconds(
             [&] { image = std::move(image).convertToFormat(QImage::Format_ARGB32); });
         for (const auto& operation : operations)
-            times[steps.at(step++)]
-                << timed([&] { image = applyOperation(operation.first, image, operation.second); });
+            times[steps.at(step++)] << milliseconds(
+                [&] { image = applyOperation(operation.first, image, operation.second); });
         QBuffer encoded;
-        times[steps.at(step++)] << timed([&] {
+        times[steps.at(step++)] << milliseconds([&] {
             encoded.open(QIODevice::WriteOnly);
             QImageWriter writer(&encoded, format.toLatin1());
             writer.setQuality(quality);
             writer.write(image);
         });
-        times[steps.at(step++)] << timed([&] {
+        times[steps.at(step++)] << milliseconds([&] {
             QSaveFile file(target.path() + "/" + OutputNaming::baseName(photo));
             file.open(QIODevice::WriteOnly);
             file.write(encoded.data());
@@ -148,7 +130,7 @@ int main(int argc, char* argv[])
         << QString::number(1000 * photos.size() / total, 'f', 2) << " photos/s |\n\n";
 
     // The engine as the batch runs it: the next photo is read while this one is processed.
-    const double engineMs = timed([&] {
+    const double engineMs = milliseconds([&] {
         BatchEngine engine(photos, operations, format, quality);
         const QString extension = "." + OutputNaming::extension(format);
         for (int i = 0; i < engine.count(); ++i) {

@@ -5,56 +5,26 @@
 // flow on that photo at full size. Per-node medians follow each figure.
 //   bench_flow [runs]   (default 200 for the preview, a tenth of it, at least 5, at full size)
 #include "basenode.h"
+#include "benchsupport.h"
 #include "commondata.h"
 #include "nodesoptionspanel.h"
 
 #include <QApplication>
 #include <QDomDocument>
-#include <QElapsedTimer>
 #include <QImage>
 #include <QTextStream>
 
-#include <algorithm>
 #include <functional>
 
 namespace {
 
-// Smooth gradients with a fine grain, as in a photo.
-QImage photo(int width, int height)
-{
-    QImage picture(width, height, QImage::Format_ARGB32);
-    quint32 state = 12345;
-    for (int y = 0; y < height; ++y) {
-        auto* row = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        for (int x = 0; x < width; ++x) {
-            state = state * 1664525u + 1013904223u;
-            const int grain = int(state >> 28) - 8;
-            row[x] = qRgb(qBound(0, x * 255 / width + grain, 255),
-                          qBound(0, y * 255 / height + grain, 255),
-                          qBound(0, 160 - x * 96 / width + grain, 255));
-        }
-    }
-    return picture;
-}
-
-double median(QVector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    const int middle = values.size() / 2;
-    return values.size() % 2 ? values.at(middle) : (values.at(middle - 1) + values.at(middle)) / 2;
-}
-
 double medianMilliseconds(int runs, const std::function<void()>& work)
 {
     QVector<double> times;
-    QElapsedTimer timer;
     work(); // warm-up: first-use costs (fonts, resources) are not what is measured
-    for (int run = 0; run < runs; ++run) {
-        timer.start();
-        work();
-        times.append(timer.nsecsElapsed() / 1e6);
-    }
-    return median(times);
+    for (int run = 0; run < runs; ++run)
+        times.append(BenchSupport::milliseconds(work));
+    return BenchSupport::median(times);
 }
 
 void readParameters(BaseNode* node, const QString& keys)
@@ -88,8 +58,7 @@ void printNodeMedians(QTextStream& out, const QMap<int, BaseNode*>& flow, const 
 
 int main(int argc, char* argv[])
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    BenchSupport::useOffscreenUnlessPlatformSet();
     QApplication app(argc, argv);
     const int runs = argc > 1 ? qMax(1, QString(argv[1]).toInt()) : 200;
     const int fullRuns = qMax(5, runs / 10);
@@ -108,7 +77,7 @@ int main(int argc, char* argv[])
     panel.slotFlowChanged(flow);
 
     CommonData::instance()->previewMode = 1;
-    const QImage working = photo(360, 270);
+    const QImage working = BenchSupport::photoLikeImage(360, 270, 12345);
     panel.setImage(working);
     const double preview = medianMilliseconds(runs, [&panel] { panel.slotParametersChanged(); });
     out << "Live preview, five nodes on the reduced working photo 360x270: " << runs
@@ -116,7 +85,7 @@ int main(int argc, char* argv[])
     printNodeMedians(out, flow, working, runs);
     out.flush();
 
-    const QImage large = photo(4000, 3000);
+    const QImage large = BenchSupport::photoLikeImage(4000, 3000, 12345);
     panel.setImage(large);
     const double reducing =
         medianMilliseconds(fullRuns, [&panel] { panel.slotParametersChanged(); });

@@ -1,6 +1,7 @@
 // Times every image kernel on a 12-megapixel photo-like image and prints a table of figures.
 // Run: make bench, or cmake --build build --target bench_kernels && build/bench/bench_kernels
 // An argument keeps only the kernels whose names contain it: bench_kernels vignette
+#include "benchsupport.h"
 #include "geometric.h"
 #include "neighbourhood.h"
 #include "point.h"
@@ -10,14 +11,14 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QTransform>
+#include <QVector>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <functional>
-#include <random>
-#include <vector>
+
+using namespace BenchSupport;
 
 namespace {
 
@@ -25,36 +26,6 @@ constexpr int Width = 4000;
 constexpr int Height = 3000;
 
 using Call = std::function<QImage(QImage&)>;
-
-// Smooth colour gradients with a soft blob and sensor-like noise: a cheap stand-in for a
-// photograph that gives every channel a wide, uneven spread of values.
-QImage photoLikeImage()
-{
-    QImage image(Width, Height, QImage::Format_ARGB32);
-    std::mt19937 random(20240611);
-    std::normal_distribution<float> noise(0.0f, 6.0f);
-    for (int y = 0; y < Height; ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < Width; ++x) {
-            const float u = float(x) / Width;
-            const float v = float(y) / Height;
-            const float blob = std::exp(-((u - 0.6f) * (u - 0.6f) + (v - 0.4f) * (v - 0.4f)) * 12);
-            const auto channel = [&](float value) {
-                return std::clamp(int(value + noise(random)), 0, 255);
-            };
-            line[x] = qRgb(channel(40 + 170 * u * (1 - v) + 60 * blob),
-                           channel(70 + 120 * v + 40 * std::sin(u * 9)),
-                           channel(200 - 150 * u * v + 30 * blob));
-        }
-    }
-    return image;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 class Bench
 {
@@ -86,7 +57,7 @@ public:
     Figures measure(const Call& kernel, const Call& reference = Call())
     {
         const Call copyCall = [this](QImage& image) { return copy(image); };
-        std::vector<double> times, copyRatios, referenceRatios;
+        QVector<double> times, copyRatios, referenceRatios;
         run(kernel);
         run(copyCall);
         if (reference)
@@ -112,7 +83,7 @@ public:
     double timeOf(const Call& call)
     {
         run(call);
-        std::vector<double> times;
+        QVector<double> times;
         for (int i = 0; i < 9; ++i)
             times.push_back(run(call));
         return median(times);
@@ -126,11 +97,10 @@ private:
     // into the image they are given pay for the detach, like the QPainter reference does.
     double run(const Call& call)
     {
-        QElapsedTimer timer;
-        timer.start();
-        QImage image = photo;
-        sink = call(image);
-        return timer.nsecsElapsed() / 1e6;
+        return milliseconds([this, &call] {
+            QImage image = photo;
+            sink = call(image);
+        });
     }
 };
 
@@ -157,12 +127,11 @@ void printRow(const char* name, const Bench::Figures& f, const char* referenceNa
 
 int main(int argc, char* argv[])
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenUnlessPlatformSet();
     QGuiApplication app(argc, argv);
     using namespace OrkGraphX;
 
-    Bench bench(photoLikeImage());
+    Bench bench(photoLikeImage(Width, Height, 20240611));
     const Call qtInvert = [](QImage& image) {
         image.invertPixels(QImage::InvertRgb);
         return image;
@@ -274,7 +243,7 @@ int main(int argc, char* argv[])
         "scaled smooth", qtScaled);
 
     const QRect whole(0, 0, Width, Height);
-    std::vector<double> blurMs;
+    QVector<double> blurMs;
     for (int radius : {1, 10, 30}) {
         const QByteArray name = "blurImage radius " + QByteArray::number(radius);
         if (!selected(name.constData()))

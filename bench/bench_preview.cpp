@@ -2,6 +2,7 @@
 // the median total, and apart from it the medians of the steps the chain is made of.
 //   bench_preview [runs]   (default 15)
 #include "basenode.h"
+#include "benchsupport.h"
 #include "creator.h"
 #include "creatordroparea.h"
 #include "flowpanel.h"
@@ -13,71 +14,16 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
-#include <QLinearGradient>
-#include <QPainter>
-#include <QRadialGradient>
 #include <QTemporaryDir>
 #include <QTextStream>
 
-#include <algorithm>
-#include <functional>
-
-namespace {
-
-// A 4000 x 3000 picture with the smooth areas and the grain of a photo.
-QImage photoLikePicture(quint32 seed)
-{
-    QImage picture(4000, 3000, QImage::Format_RGB32);
-    QPainter painter(&picture);
-    QLinearGradient sky(0, 0, 0, 3000);
-    sky.setColorAt(0, QColor(60, 110, 190));
-    sky.setColorAt(0.55, QColor(200, 210, 225));
-    sky.setColorAt(0.56, QColor(70, 110, 50));
-    sky.setColorAt(1, QColor(40, 60, 25));
-    painter.fillRect(picture.rect(), sky);
-    QRadialGradient sun(900 + seed % 500, 700, 600);
-    sun.setColorAt(0, QColor(255, 240, 200, 220));
-    sun.setColorAt(1, QColor(255, 240, 200, 0));
-    painter.fillRect(picture.rect(), sun);
-    painter.end();
-    quint32 state = seed;
-    for (int y = 0; y < picture.height(); ++y) {
-        auto* row = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        for (int x = 0; x < picture.width(); ++x) {
-            state = state * 1664525u + 1013904223u;
-            const int grain = int(state >> 28) - 8;
-            const QRgb p = row[x];
-            row[x] = qRgb(qBound(0, qRed(p) + grain, 255), qBound(0, qGreen(p) + grain, 255),
-                          qBound(0, qBlue(p) + grain, 255));
-        }
-    }
-    return picture;
-}
-
-double median(QVector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    const int n = values.size();
-    return n % 2 ? values.at(n / 2) : (values.at(n / 2 - 1) + values.at(n / 2)) / 2;
-}
-
-double milliseconds(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return timer.nsecsElapsed() / 1e6;
-}
-
-} // namespace
+using namespace BenchSupport;
 
 int main(int argc, char* argv[])
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenUnlessPlatformSet();
     QApplication app(argc, argv);
     QApplication::setOrganizationName("Qubrast");
     QApplication::setApplicationName("Pelodine");
@@ -89,7 +35,7 @@ int main(int argc, char* argv[])
     qint64 bytes = 0;
     for (quint32 i = 0; i < 2; ++i) {
         const QString path = dir.filePath(QString("photo%1.jpg").arg(i));
-        photoLikePicture(7 + i * 31).save(path, "JPEG", 90);
+        photoLikeImage(4000, 3000, 7 + i * 31).save(path, "JPEG", 90);
         bytes += QFileInfo(path).size();
         photos << QUrl::fromLocalFile(path);
     }
