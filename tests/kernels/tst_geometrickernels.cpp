@@ -141,7 +141,9 @@ void TestGeometricKernels::turnsFollowThePixelRule_data()
     } turns[] = {{"right 90", OrkGraphX::rotateRight90, ruleRight90},
                  {"180", OrkGraphX::rotate180, rule180},
                  {"left 90", OrkGraphX::rotateLeft90, ruleLeft90}};
-    const QSize sizes[] = {{7, 5}, {1, 1}, {1, 4}, {4, 1}, {8, 3}, {64, 9}, {70, 130}, {131, 66}};
+    // 1500 x 1400 is large enough for the result to live in huge-page memory.
+    const QSize sizes[] = {{7, 5},  {1, 1},    {1, 4},    {4, 1},      {8, 3},
+                           {64, 9}, {70, 130}, {131, 66}, {1500, 1400}};
     for (const auto& turn : turns)
         for (QImage::Format format : wordFormats)
             for (const QSize& size : sizes)

@@ -181,7 +181,7 @@ void copyReversed(const QRgb* from, QRgb* to, int count, QRgb orMask)
 QImage quarterTurn(QImage& image, bool clockwise)
 {
     const QImage source = wordImage(image);
-    QImage result(source.height(), source.width(), source.format());
+    QImage result = newImage(source.height(), source.width(), source.format());
     if (!result.isNull())
         QuarterTurn(source, result, clockwise).run();
     return result;
@@ -239,7 +239,7 @@ QImage rotate180(QImage& image)
     const QImage source = wordImage(image);
     const int w = source.width();
     const int h = source.height();
-    QImage result(w, h, source.format());
+    QImage result = newImage(w, h, source.format());
     if (result.isNull())
         return result;
     const WordTransfer transfer(source.format());
@@ -286,7 +286,7 @@ QImage cropImage(QImage& image, int left, int right, int top, int bottom)
     const qint64 newHeight = h - ((h * bottom) / 100 + y0);
     if (newWidth < 1 || newHeight < 1 || newWidth > INT_MAX || newHeight > INT_MAX)
         return QImage();
-    QImage result(int(newWidth), int(newHeight), source.format());
+    QImage result = newImage(int(newWidth), int(newHeight), source.format());
     if (!result.isNull())
         copyShifted(source, result, x0, y0);
     return result;
@@ -300,7 +300,7 @@ QImage drawFrame(QImage& image, int percent, QColor colour)
     const qint64 height = source.height() + 2 * qint64(border);
     if (width < 1 || height < 1 || width > INT_MAX || height > INT_MAX)
         return QImage();
-    QImage result(int(width), int(height), source.format());
+    QImage result = newImage(int(width), int(height), source.format());
     if (result.isNull())
         return result;
     // The image is filled with the colour and the source copied over it; only the part the

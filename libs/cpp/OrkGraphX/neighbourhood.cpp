@@ -206,7 +206,7 @@ QImage sharpenImage(QImage& image)
     const int h = source.height();
     // Deliberately not cleared: the border that the filter does not reach keeps what the
     // allocation holds.
-    QImage result(w, h, source.format());
+    QImage result = newImage(w, h, source.format());
     if (result.isNull() || w - 2 < 2)
         return result;
     for (int y = 1; y <= h - 3; ++y) {
@@ -719,7 +719,7 @@ QImage optimizeHistogram(QImage& image, int highClip, int lowClip)
     const QImage source = wordImage(image);
     const int w = source.width();
     const int h = source.height();
-    QImage result(w, h, QImage::Format_ARGB32);
+    QImage result = newImage(w, h, QImage::Format_ARGB32);
     if (result.isNull())
         return result;
 
