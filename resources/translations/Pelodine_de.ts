@@ -106,7 +106,7 @@
 <context>
     <name>BaseNode</name>
     <message>
-        <location filename="../../nodes/nodecontrols.cpp" line="+176"/>
+        <location filename="../../nodes/nodecontrols.cpp" line="+185"/>
         <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Keine Optionen&lt;/H2&gt;</translation>
     </message>
@@ -238,12 +238,12 @@
 <context>
     <name>Direction</name>
     <message>
-        <location filename="../../nodes/ui/direction.cpp" line="+10"/>
+        <location filename="../../nodes/ui/direction.cpp" line="+9"/>
         <source>TopLeft</source>
         <translation>Oben links</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>TopMiddle</source>
         <translation>Oben Mitte</translation>
     </message>
@@ -253,7 +253,7 @@
         <translation>Oben rechts</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>MiddleLeft</source>
         <translation>Mitte links</translation>
     </message>
@@ -263,7 +263,7 @@
         <translation>Mitte</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>MiddleRight</source>
         <translation>Mitte rechts</translation>
     </message>
@@ -273,7 +273,7 @@
         <translation>Unten links</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>BottomMiddle</source>
         <translation>Unten Mitte</translation>
     </message>
@@ -475,7 +475,7 @@ Overwrite?</source>
 <context>
     <name>NodeName</name>
     <message>
-        <location filename="../../nodes/bcsnode.h" line="+20"/>
+        <location filename="../../nodes/bcsnode.h" line="+21"/>
         <source>Brightness, Contrast, Saturation</source>
         <translation>Helligkeit, Kontrast, Sättigung</translation>
     </message>
@@ -540,7 +540,7 @@ Overwrite?</source>
         <translation>Vignettierung</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.h" line="+39"/>
+        <location filename="../../nodes/wmrnode.h" line="+40"/>
         <source>Watermark</source>
         <translation>Wasserzeichen</translation>
     </message>
@@ -677,7 +677,7 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+53"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+100"/>
         <source>Fewer options</source>
         <translation>Weniger Optionen</translation>
     </message>
@@ -742,12 +742,12 @@ Overwrite?</source>
         <translation>Bild</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+6"/>
         <source>Draw the background behind the text</source>
         <translation>Hintergrund hinter dem Text zeichnen</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+9"/>
         <source>Kind:</source>
         <translation>Art:</translation>
     </message>
@@ -757,12 +757,12 @@ Overwrite?</source>
         <translation>Text:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Font:</source>
         <translation>Schrift:</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+13"/>
         <source>Text color:</source>
         <translation>Textfarbe:</translation>
     </message>
@@ -772,12 +772,12 @@ Overwrite?</source>
         <translation>Hintergrund:</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="-13"/>
         <source>Logo:</source>
         <translation>Logo:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Size:</source>
         <translation>Größe:</translation>
     </message>
@@ -787,12 +787,12 @@ Overwrite?</source>
         <translation>Transparenz:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Position:</source>
         <translation>Position:</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+8"/>
         <source>Expand:</source>
         <translation>Strecken:</translation>
     </message>

@@ -106,7 +106,7 @@
 <context>
     <name>BaseNode</name>
     <message>
-        <location filename="../../nodes/nodecontrols.cpp" line="+176"/>
+        <location filename="../../nodes/nodecontrols.cpp" line="+185"/>
         <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Нет параметров&lt;/H2&gt;</translation>
     </message>
@@ -238,12 +238,12 @@
 <context>
     <name>Direction</name>
     <message>
-        <location filename="../../nodes/ui/direction.cpp" line="+10"/>
+        <location filename="../../nodes/ui/direction.cpp" line="+9"/>
         <source>TopLeft</source>
         <translation>Вверху слева</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>TopMiddle</source>
         <translation>Вверху по центру</translation>
     </message>
@@ -253,7 +253,7 @@
         <translation>Вверху справа</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>MiddleLeft</source>
         <translation>В центре слева</translation>
     </message>
@@ -263,7 +263,7 @@
         <translation>В центре</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>MiddleRight</source>
         <translation>В центре справа</translation>
     </message>
@@ -273,7 +273,7 @@
         <translation>Внизу слева</translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location line="+1"/>
         <source>BottomMiddle</source>
         <translation>Внизу по центру</translation>
     </message>
@@ -475,7 +475,7 @@ Overwrite?</source>
 <context>
     <name>NodeName</name>
     <message>
-        <location filename="../../nodes/bcsnode.h" line="+20"/>
+        <location filename="../../nodes/bcsnode.h" line="+21"/>
         <source>Brightness, Contrast, Saturation</source>
         <translation>Яркость, контраст, насыщенность</translation>
     </message>
@@ -540,7 +540,7 @@ Overwrite?</source>
         <translation>Виньетирование</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.h" line="+39"/>
+        <location filename="../../nodes/wmrnode.h" line="+40"/>
         <source>Watermark</source>
         <translation>Водяной знак</translation>
     </message>
@@ -677,7 +677,7 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+53"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+100"/>
         <source>Fewer options</source>
         <translation>Меньше параметров</translation>
     </message>
@@ -742,12 +742,12 @@ Overwrite?</source>
         <translation>Изображение</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+6"/>
         <source>Draw the background behind the text</source>
         <translation>Рисовать фон под текстом</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+9"/>
         <source>Kind:</source>
         <translation>Тип:</translation>
     </message>
@@ -757,12 +757,12 @@ Overwrite?</source>
         <translation>Текст:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Font:</source>
         <translation>Шрифт:</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+13"/>
         <source>Text color:</source>
         <translation>Цвет текста:</translation>
     </message>
@@ -772,12 +772,12 @@ Overwrite?</source>
         <translation>Фон:</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="-13"/>
         <source>Logo:</source>
         <translation>Логотип:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Size:</source>
         <translation>Размер:</translation>
     </message>
@@ -787,12 +787,12 @@ Overwrite?</source>
         <translation>Прозрачность:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Position:</source>
         <translation>Положение:</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+8"/>
         <source>Expand:</source>
         <translation>Растянуть:</translation>
     </message>

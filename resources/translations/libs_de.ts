@@ -17,7 +17,7 @@
 <context>
     <name>OrkWidgets::DropWidget</name>
     <message>
-        <location filename="../../libs/cpp/OrkWidgets/dropwidget.cpp" line="+26"/>
+        <location filename="../../libs/cpp/OrkWidgets/dropwidget.cpp" line="+27"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Fotos hierher ziehen&lt;/H2&gt;</translation>
     </message>
@@ -27,7 +27,7 @@
         <translation>Klicken, um Fotos zu öffnen</translation>
     </message>
     <message>
-        <location line="+30"/>
+        <location line="+33"/>
         <source>Open the photos</source>
         <translation>Fotos öffnen</translation>
     </message>
