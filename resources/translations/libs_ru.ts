@@ -35,12 +35,12 @@
 <context>
     <name>OrkWidgets::HelpWindow</name>
     <message>
-        <location filename="../../libs/cpp/OrkWidgets/helpwindow.cpp" line="+16"/>
+        <location filename="../../libs/cpp/OrkWidgets/helpwindow.cpp" line="+17"/>
         <source>%1 Help</source>
         <translation>Справка %1</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+8"/>
         <source>&amp;Previous</source>
         <translation>&amp;Назад</translation>
     </message>
@@ -55,7 +55,7 @@
         <translation>&amp;Закрыть</translation>
     </message>
     <message>
-        <location line="+27"/>
+        <location line="+35"/>
         <source>%1 of %2</source>
         <translation>%1 из %2</translation>
     </message>

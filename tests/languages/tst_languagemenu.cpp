@@ -5,6 +5,7 @@
 #include "testutils.h"
 #include "translationsmanager.h"
 
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -154,6 +155,14 @@ void TestLanguageMenu::helpAndAbout()
     auto* window = page.findChild<QDialog*>("HelpWindow");
     QVERIFY(window);
     QVERIFY(window->isVisible());
+    // The whole slide shows, at most reduced to the screen: none of it is cut off.
+    const auto* picture = window->findChild<QLabel*>("HelpSlide");
+    QVERIFY(picture);
+    const QSize shown = picture->pixmap(Qt::ReturnByValue).size();
+    QVERIFY(!shown.isEmpty());
+    QVERIFY2(qAbs(shown.width() * 700 - shown.height() * 1000) <= 1000,
+             qPrintable(QString("%1x%2").arg(shown.width()).arg(shown.height())));
+    QVERIFY(picture->width() >= shown.width() && picture->height() >= shown.height());
     window->close();
 
     const QString about = App::instance()->aboutText();

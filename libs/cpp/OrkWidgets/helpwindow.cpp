@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace OrkWidgets {
@@ -18,7 +19,6 @@ HelpWindow::HelpWindow(const QStringList& slides, QWidget* parent)
     picture = new QLabel(this);
     picture->setObjectName("HelpSlide");
     picture->setAlignment(Qt::AlignCenter);
-    picture->setMinimumSize(640, 480);
 
     counter = new QLabel(this);
     counter->setAlignment(Qt::AlignCenter);
@@ -52,7 +52,15 @@ void HelpWindow::showSlide(int index)
     if (slides.isEmpty())
         return;
     current = qBound(0, index, slides.size() - 1);
-    picture->setPixmap(QPixmap(slides.at(current)));
+    // Whole slides, reduced only when the screen is smaller: a window sized by its contents
+    // would otherwise be held to two thirds of the screen and cut the slide.
+    QPixmap slide(slides.at(current));
+    const QScreen* screen = this->screen();
+    const QSize room = screen ? screen->availableSize() * 0.85 : slide.size();
+    if (slide.width() > room.width() || slide.height() > room.height())
+        slide = slide.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    picture->setMinimumSize(slide.size().expandedTo(QSize(640, 480)));
+    picture->setPixmap(slide);
     counter->setText(tr("%1 of %2").arg(current + 1).arg(slides.size()));
     previousButton->setEnabled(current > 0);
     nextButton->setEnabled(current < slides.size() - 1);
