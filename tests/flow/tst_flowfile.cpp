@@ -341,45 +341,28 @@ void TestFlowFile::sampleResource_data()
 
     // Active, Mode, Size, Text, Position, Expand, Bold, Italic, Underlined, XOffset, YOffset,
     // Transparency, Color, Background, BackgroundEnabled, Font, ImageData, ImageName.
-    QTest::newRow("first") << 0 << QStringList{"yes",
-                                               "0",
-                                               "39",
-                                               "Watermark1",
-                                               "BottomRight",
-                                               "no",
-                                               "no",
-                                               "no",
-                                               "no",
-                                               "0",
-                                               "0",
-                                               "25",
-                                               "#00ff00",
-                                               "#c00000",
-                                               "yes",
-                                               ".Lucida Grande UI",
-                                               "",
-                                               "qubrast.png"};
-    QTest::newRow("second") << 1 << QStringList{"yes",     "0",          "67",  "Watermark2",
-                                                "TopLeft", "no",         "no",  "yes",
-                                                "no",      "0",          "0",   "38",
-                                                "#ff8000", "#0000c0",    "yes", "Times New Roman",
-                                                "",        "qubrast.png"};
-    QTest::newRow("third") << 2 << QStringList{"yes",     "1",          "60",  "Watermark",
-                                               "Middle",  "no",         "no",  "no",
-                                               "no",      "0",          "0",   "25",
-                                               "#ffffff", "#000000",    "yes", ".Lucida Grande UI",
-                                               "",        "qubrast.png"};
+    QTest::newRow("first") << 0
+                           << QString("yes|0|39|Watermark1|BottomRight|no|no|no|no|0|0|25|#00ff00|"
+                                      "#c00000|yes|.Lucida Grande UI||qubrast.png")
+                                  .split('|');
+    QTest::newRow("second") << 1
+                            << QString("yes|0|67|Watermark2|TopLeft|no|no|yes|no|0|0|38|#ff8000|"
+                                       "#0000c0|yes|Times New Roman||qubrast.png")
+                                   .split('|');
+    QTest::newRow("third") << 2
+                           << QString("yes|1|60|Watermark|Middle|no|no|no|no|0|0|25|#ffffff|"
+                                      "#000000|yes|.Lucida Grande UI||qubrast.png")
+                                  .split('|');
 }
 
 void TestFlowFile::sampleResource()
 {
     QFETCH(int, index);
     QFETCH(QStringList, values);
-    const QStringList keys = {
-        "Active",  "Mode",         "Size",     "Text",       "Position",
-        "Expand",  "Bold",         "Italic",   "Underlined", "XOffset",
-        "YOffset", "Transparency", "Color",    "Background", "BackgroundEnabled",
-        "Font",    "ImageData",    "ImageName"};
+    const QStringList keys =
+        QString("Active|Mode|Size|Text|Position|Expand|Bold|Italic|Underlined|XOffset|YOffset|"
+                "Transparency|Color|Background|BackgroundEnabled|Font|ImageData|ImageName")
+            .split('|');
 
     QString text;
     QVERIFY(FlowFile::readFlowFile(":/sample.flow", &text));
@@ -530,16 +513,14 @@ void TestFlowFile::flowFileName_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("fileName");
-    QTest::newRow("empty") << ""
-                           << ".flow";
-    QTest::newRow("plain") << "holiday"
-                           << "holiday.flow";
-    QTest::newRow("with extension") << "a.flow"
-                                    << "a.flow";
-    QTest::newRow("upper-case extension") << "a.FLOW"
-                                          << "a.FLOW.flow";
-    QTest::newRow("extension inside") << "a.flow.bak"
-                                      << "a.flow.bak.flow";
+    const auto row = [](const char* tag, const QString& typed, const QString& fileName) {
+        QTest::newRow(tag) << typed << fileName;
+    };
+    row("empty", "", ".flow");
+    row("plain", "holiday", "holiday.flow");
+    row("with extension", "a.flow", "a.flow");
+    row("upper-case extension", "a.FLOW", "a.FLOW.flow");
+    row("extension inside", "a.flow.bak", "a.flow.bak.flow");
 }
 
 void TestFlowFile::flowFileName()
@@ -553,20 +534,16 @@ void TestFlowFile::findFlow_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("found");
-    QTest::newRow("without extension") << "holiday"
-                                       << "holiday.flow";
-    QTest::newRow("with extension") << "holiday.flow"
-                                    << "holiday.flow";
-    QTest::newRow("only the flow file counts") << "notes"
-                                               << "notes.flow";
-    QTest::newRow("a file without extension is no flow") << "readme"
-                                                         << "";
-    QTest::newRow("missing") << "winter"
-                             << "";
-    QTest::newRow("empty") << ""
-                           << "";
-    QTest::newRow("a folder is no flow") << "folder"
-                                         << "";
+    const auto row = [](const char* tag, const QString& name, const QString& found) {
+        QTest::newRow(tag) << name << found;
+    };
+    row("without extension", "holiday", "holiday.flow");
+    row("with extension", "holiday.flow", "holiday.flow");
+    row("only the flow file counts", "notes", "notes.flow");
+    row("a file without extension is no flow", "readme", "");
+    row("missing", "winter", "");
+    row("empty", "", "");
+    row("a folder is no flow", "folder", "");
 }
 
 void TestFlowFile::findFlow()
