@@ -243,6 +243,7 @@ private slots:
 
     void removeNode_data();
     void removeNode();
+    void removedNodeIsHandedOut_data();
     void removedNodeIsHandedOut();
     void removeButtonAndSaveFollowCount();
     void dragTwoPlacesKeepsMapAndTabsInStep();
@@ -250,7 +251,6 @@ private slots:
 
     void saveFlow_data();
     void saveFlow();
-    void saveCancelledWritesNothing();
     void overwrite_data();
     void overwrite();
     void deleteFavorite_data();
@@ -268,9 +268,11 @@ private slots:
     void thumbnailButtonAndBubble();
     void bubbleGeometry_data();
     void bubbleGeometry();
-    void wiredToOptionsPanel();
 
 private:
+    QMenu* flowsMenu() const { return panel->findChild<QPushButton*>("PushButton")->menu(); }
+    QAction* flowsAction(const QString& text) const { return menuAction(flowsMenu(), text); }
+
     NodesOptionsPanel* options = nullptr;
     FlowPanel* panel = nullptr;
     NodesTabBar* bar = nullptr;
@@ -327,10 +329,9 @@ void TestFlowPanel::widgetsCarryTheirNames()
 
 void TestFlowPanel::favoritesMenuWithoutFlows()
 {
-    const auto* flows = panel->findChild<QPushButton*>("PushButton");
-    QVERIFY(flows && flows->menu());
-    QCOMPARE(flows->menu()->objectName(), QString("FavoritesMenu"));
-    QCOMPARE(menuTexts(flows->menu()),
+    QVERIFY(flowsMenu());
+    QCOMPARE(flowsMenu()->objectName(), QString("FavoritesMenu"));
+    QCOMPARE(menuTexts(flowsMenu()),
              (QStringList{"&Clear", "&Save...", "&Delete...", "&Go To Flows Location", "--"}));
 }
 
@@ -444,16 +445,31 @@ void TestFlowPanel::removeNode()
     QCOMPARE(removed.at(0).at(2).value<BaseNode*>(), flow.value(newCurrent, nullptr));
 }
 
+void TestFlowPanel::removedNodeIsHandedOut_data()
+{
+    QTest::addColumn<bool>("wired");
+    QTest::newRow("kept alive for the receiver") << false;
+    QTest::newRow("deleted by the options panel") << true;
+}
+
 void TestFlowPanel::removedNodeIsHandedOut()
 {
+    QFETCH(bool, wired);
+    if (wired) {
+        connect(panel, &FlowPanel::nodeRemoved, options, &NodesOptionsPanel::slotNodeRemoved);
+        connect(panel, &FlowPanel::flowChanged, options, &NodesOptionsPanel::slotFlowChanged);
+        connect(panel, &FlowPanel::showOptions, options, &NodesOptionsPanel::slotShowOptions);
+    }
     panel->loadFlow(flowOfNames({"Blur", "Crop"}));
     QPointer<BaseNode> crop = panel->flow().value(1);
     QPointer<QWidget> thumbnail = bar->tabButton(1, QTabBar::LeftSide);
     panel->slotRemoveNode();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
-    QVERIFY(crop);
     QVERIFY(!thumbnail);
+    QCOMPARE(crop.isNull(), wired);
+    if (wired)
+        return;
     // Its previews no longer reach the panel.
     crop->updatePreview(TestUtils::filledImage(8, 8, 0xff00ff00));
     QVERIFY(qobject_cast<TabLabel*>(bar->tabButton(0, QTabBar::LeftSide))->preview().isNull());
@@ -463,19 +479,18 @@ void TestFlowPanel::removedNodeIsHandedOut()
 void TestFlowPanel::removeButtonAndSaveFollowCount()
 {
     auto* remove = panel->findChild<QPushButton*>("PushButtonRemove");
-    const QMenu* menu = panel->findChild<QPushButton*>("PushButton")->menu();
     QVERIFY(!remove->isEnabled());
-    QVERIFY(!menuAction(menu, "&Save...")->isEnabled());
+    QVERIFY(!flowsAction("&Save...")->isEnabled());
 
     panel->slotAddWaterMarkNode();
     QVERIFY(remove->isEnabled());
-    QVERIFY(menuAction(menu, "&Save...")->isEnabled());
+    QVERIFY(flowsAction("&Save...")->isEnabled());
     panel->slotAddWaterMarkNode();
     panel->slotRemoveNode();
     QVERIFY(remove->isEnabled());
     panel->slotRemoveNode();
     QVERIFY(!remove->isEnabled());
-    QVERIFY(!menuAction(menu, "&Save...")->isEnabled());
+    QVERIFY(!flowsAction("&Save...")->isEnabled());
 }
 
 void TestFlowPanel::dragTwoPlacesKeepsMapAndTabsInStep()
@@ -516,7 +531,7 @@ void TestFlowPanel::clearRemovesEveryNode()
     bar->setCurrentIndex(1);
     QSignalSpy removed(panel, &FlowPanel::nodeRemoved);
     QSignalSpy changed(panel, &FlowPanel::flowChanged);
-    menuAction(panel->findChild<QPushButton*>("PushButton")->menu(), "&Clear")->trigger();
+    flowsAction("&Clear")->trigger();
     QCOMPARE(removed.count(), 3);
     QCOMPARE(removed.last().at(0).value<Flow>(), Flow());
     QCOMPARE(removed.last().at(2).value<BaseNode*>(), nullptr);
@@ -528,46 +543,37 @@ void TestFlowPanel::clearRemovesEveryNode()
 void TestFlowPanel::saveFlow_data()
 {
     QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("accept");
     QTest::addColumn<QString>("fileName");
-    QTest::newRow("plain name") << "holiday"
-                                << "holiday.flow";
-    QTest::newRow("empty name") << ""
-                                << ".flow";
-    QTest::newRow("with extension") << "a.flow"
-                                    << "a.flow";
-    QTest::newRow("upper-case extension") << "a.FLOW"
-                                          << "a.FLOW.flow";
+    QTest::newRow("plain name") << "holiday" << true << "holiday.flow";
+    QTest::newRow("empty name") << "" << true << ".flow";
+    QTest::newRow("with extension") << "a.flow" << true << "a.flow";
+    QTest::newRow("upper-case extension") << "a.FLOW" << true << "a.FLOW.flow";
+    QTest::newRow("cancelled writes nothing") << "holiday" << false << "";
 }
 
 void TestFlowPanel::saveFlow()
 {
     QFETCH(QString, typed);
+    QFETCH(bool, accept);
     QFETCH(QString, fileName);
     panel->loadFlow(flowOfNames({"Blur", "Crop"}));
 
     QStringList seen;
-    DialogScript script({typeName(typed, &seen)});
-    menuAction(panel->findChild<QPushButton*>("PushButton")->menu(), "&Save...")->trigger();
+    DialogScript script({typeName(typed, &seen, accept)});
+    flowsAction("&Save...")->trigger();
 
     QCOMPARE(script.unanswered(), 0);
     QCOMPARE(script.unexpected, 0);
     QCOMPARE(seen, QStringList{"Save Flow|Flow's Name:"});
-    QCOMPARE(FlowFile::flowNames(), QStringList{fileName});
-    QCOMPARE(QString::fromUtf8(readBytes(FlowFile::flowsFolder() + fileName)),
-             FlowFile::flowText(panel->flow()));
-    // The menu was rebuilt with the new file.
-    const QMenu* menu = panel->findChild<QPushButton*>("PushButton")->menu();
-    QCOMPARE(menuTexts(menu).mid(5), QStringList{fileName});
-}
-
-void TestFlowPanel::saveCancelledWritesNothing()
-{
-    panel->loadFlow(flowOfNames({"Blur"}));
-    QStringList seen;
-    DialogScript script({typeName("holiday", &seen, false)});
-    panel->slotSaveFlow();
-    QCOMPARE(script.unanswered(), 0);
-    QVERIFY(FlowFile::flowNames().isEmpty());
+    const QStringList saved = accept ? QStringList{fileName} : QStringList();
+    QCOMPARE(FlowFile::flowNames(), saved);
+    // The menu lists the flows after its five fixed entries.
+    QCOMPARE(menuTexts(flowsMenu()).mid(5), saved);
+    if (accept) {
+        QCOMPARE(QString::fromUtf8(readBytes(FlowFile::flowsFolder() + fileName)),
+                 FlowFile::flowText(panel->flow()));
+    }
 }
 
 void TestFlowPanel::overwrite_data()
@@ -621,7 +627,7 @@ void TestFlowPanel::deleteFavorite()
     FlowTest::writeBytes(FlowFile::flowsFolder() + "b.flow", flowOfNames({"Crop"}).toUtf8());
     delete panel;
     panel = new FlowPanel(options);
-    const QMenu* menu = panel->findChild<QPushButton*>("PushButton")->menu();
+    const QMenu* menu = flowsMenu();
     const QStringList menuFlows = menuTexts(menu).mid(5);
 
     QStringList listed;
@@ -696,7 +702,7 @@ void TestFlowPanel::loadFavoriteFromMenu()
     delete panel;
     panel = new FlowPanel(options);
     bar = panel->findChild<NodesTabBar*>();
-    const QMenu* menu = panel->findChild<QPushButton*>("PushButton")->menu();
+    const QMenu* menu = flowsMenu();
     QCOMPARE(menuTexts(menu).mid(5), QStringList{"sample.flow"});
 
     QSignalSpy changed(panel, &FlowPanel::flowChanged);
@@ -758,6 +764,13 @@ void TestFlowPanel::saveThenLoadEveryKind()
     }();
 
     using Values = QList<QPair<QString, QString>>;
+    // "key=value|key=value"; a value may hold '=' (base64 padding) but not '|'.
+    const auto keyValues = [](const QString& text) {
+        Values values;
+        for (const QString& pair : text.split('|'))
+            values.append({pair.section('=', 0, 0), pair.section('=', 1)});
+        return values;
+    };
     const QList<QPair<QString, Values>> flow = {
         {"RGB-Order", {{"Active", "yes"}, {"Mode", "2"}}},
         {"Brightness, Contrast, Saturation",
@@ -768,24 +781,11 @@ void TestFlowPanel::saveThenLoadEveryKind()
         {"Mirror", {{"Active", "yes"}, {"Horizontal", "no"}, {"Vertical", "yes"}}},
         {"Grayscale", {{"Active", "yes"}}},
         {"Watermark",
-         {{"Active", "yes"},
-          {"Mode", "1"},
-          {"Size", "42"},
-          {"Text", "\u00dcber & <\"quoted\"> ]]>"},
-          {"Position", "TopMiddle"},
-          {"Expand", "yes"},
-          {"Bold", "yes"},
-          {"Italic", "no"},
-          {"Underlined", "yes"},
-          {"XOffset", "-5"},
-          {"YOffset", "7"},
-          {"Transparency", "60"},
-          {"Color", "#12ab34"},
-          {"Background", "#fedcba"},
-          {"BackgroundEnabled", "yes"},
-          {"Font", font},
-          {"ImageData", logoData},
-          {"ImageName", "logo.png"}}},
+         keyValues(QString("Active=yes|Mode=1|Size=42|Text=%1|Position=TopMiddle|Expand=yes|"
+                           "Bold=yes|Italic=no|Underlined=yes|XOffset=-5|YOffset=7|"
+                           "Transparency=60|Color=#12ab34|Background=#fedcba|"
+                           "BackgroundEnabled=yes|Font=%2|ImageData=%3|ImageName=logo.png")
+                       .arg("\u00dcber & <\"quoted\"> ]]>", font, logoData))},
         {"Crop",
          {{"Active", "no"}, {"Left", "10"}, {"Right", "20"}, {"Top", "5"}, {"Bottom", "1"}}},
         {"Resize", {{"Active", "yes"}, {"Mode", "2"}, {"Width", "1200"}, {"Height", "800"}}},
@@ -856,8 +856,7 @@ void TestFlowPanel::goToFlowsLocationOpensFolder()
 {
     UrlRecorder recorder;
     QDesktopServices::setUrlHandler("file", &recorder, "open");
-    menuAction(panel->findChild<QPushButton*>("PushButton")->menu(), "&Go To Flows Location")
-        ->trigger();
+    flowsAction("&Go To Flows Location")->trigger();
     QDesktopServices::unsetUrlHandler("file");
     QCOMPARE(recorder.opened,
              QList<QUrl>{QUrl::fromLocalFile(TestUtils::sandboxHome() + "/Pelodine/Flows/")});
@@ -988,18 +987,6 @@ void TestFlowPanel::bubbleGeometry()
     QFETCH(QRect, origin);
     QFETCH(QRect, target);
     QCOMPARE(PreviewBubble::targetGeometry(picture, origin, QRect(0, 0, 1920, 1080)), target);
-}
-
-void TestFlowPanel::wiredToOptionsPanel()
-{
-    connect(panel, &FlowPanel::nodeRemoved, options, &NodesOptionsPanel::slotNodeRemoved);
-    connect(panel, &FlowPanel::flowChanged, options, &NodesOptionsPanel::slotFlowChanged);
-    connect(panel, &FlowPanel::showOptions, options, &NodesOptionsPanel::slotShowOptions);
-    panel->loadFlow(flowOfNames({"Blur", "Crop"}));
-    QPointer<BaseNode> crop = panel->flow().value(1);
-    panel->slotRemoveNode();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!crop);
 }
 
 PELODINE_TEST_MAIN(TestFlowPanel)
