@@ -50,7 +50,6 @@ private slots:
     void smallViewStepsThePhotoSide();
     void largeViewRunsFullSize();
     void largeViewSteps();
-    void largeViewSinglePhotoHasNoSteps();
     void batchOperations_data();
     void batchOperations();
     void batchRunsTwiceWithOneDialog();
@@ -60,6 +59,13 @@ private:
     // Runs check inside the next modal dialog's event loop, then closes that dialog.
     void whileModal(const std::function<void(QWidget*)>& check);
     QUrl photo(const QString& name) const { return QUrl::fromLocalFile(dir.filePath(name)); }
+    QList<QUrl> photos(const QStringList& names) const
+    {
+        QList<QUrl> urls;
+        for (const QString& name : names)
+            urls << photo(name);
+        return urls;
+    }
 
     QTemporaryDir dir;
     MainPage* page = nullptr;
@@ -174,11 +180,8 @@ void TestMainPage::filesDropped()
     QFETCH(QStringList, files);
     QFETCH(int, count);
 
-    QList<QUrl> urls;
-    for (const QString& file : files)
-        urls << photo(file);
     QVERIFY(!page->isVisible());
-    page->slotFilesDropped(urls);
+    page->slotFilesDropped(photos(files));
     QVERIFY(page->isVisible());
     QCOMPARE(page->creator()->dropArea()->photos().size(), count);
 }
@@ -234,10 +237,7 @@ void TestMainPage::smallViewHover()
     QFETCH(bool, shown);
     QFETCH(QString, info);
 
-    QList<QUrl> urls;
-    for (const QString& file : files)
-        urls << photo(file);
-    page->slotFilesDropped(urls);
+    page->slotFilesDropped(photos(files));
     for (int i = 0; i < steps; ++i)
         page->creator()->slotNext();
     ImagePreview* preview = page->representor()->preview();
@@ -314,6 +314,8 @@ void TestMainPage::largeViewRunsFullSize()
                        screen.top() + (screen.height() - target.height()) / 2, target.width(),
                        target.height()));
         QCOMPARE(dialog->minimumSize(), QSize(5, 5));
+        // A single photo offers no steps.
+        QVERIFY(dialog->viewer()->isNavigationHidden());
         checked = true;
         // Escape in the viewer closes the view.
         QTest::keyClick(dialog->viewer(), Qt::Key_Escape);
@@ -352,18 +354,6 @@ void TestMainPage::largeViewSteps()
     page->representor()->slotPreview();
     QVERIFY(checked);
     QCOMPARE(CommonData::instance()->previewMode, 1);
-}
-
-void TestMainPage::largeViewSinglePhotoHasNoSteps()
-{
-    page->slotFilesDropped({photo("tall.png")});
-    bool checked = false;
-    whileModal([&](QWidget*) {
-        QVERIFY(page->representor()->viewDialog()->viewer()->isNavigationHidden());
-        checked = true;
-    });
-    page->representor()->slotPreview();
-    QVERIFY(checked);
 }
 
 void TestMainPage::batchOperations_data()
