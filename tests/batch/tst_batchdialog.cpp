@@ -51,7 +51,6 @@ private slots:
     void oddNumbersContinueInTheSameDialog();
     void dialogShowsAResetStateAgain();
     void stopBeforeTheStartStillCloses();
-    void noOpeningWhenSwitchedOff();
     void settingsDialogLayout();
     void settingsDefaults();
     void formatSwitchesQuality_data();
@@ -237,8 +236,13 @@ void TestBatchDialog::oddNumbersContinueInTheSameDialog()
 
 void TestBatchDialog::dialogShowsAResetStateAgain()
 {
+    App::writeSetting("KeyOpenLocation", false);
     BatchDialog dialog;
     runDialog(dialog, {writePhoto(inFolder, "a.png", 0xff000000)});
+    QCOMPARE(fileNames(dialog.destinationFolder()), QStringList{"a.jpeg"});
+    // Switched off, the destination is not opened.
+    QVERIFY(opener.opened.isEmpty());
+
     auto* pause = dialog.findChild<QPushButton*>("BatchPauseButton");
     pause->setChecked(true);
     pause->setText("Resume");
@@ -263,15 +267,6 @@ void TestBatchDialog::stopBeforeTheStartStillCloses()
     QTRY_VERIFY(!dialog.isVisible());
 }
 
-void TestBatchDialog::noOpeningWhenSwitchedOff()
-{
-    App::writeSetting("KeyOpenLocation", false);
-    BatchDialog dialog;
-    runDialog(dialog, {writePhoto(inFolder, "a.png", 0xff000000)});
-    QCOMPARE(fileNames(dialog.destinationFolder()), QStringList{"a.jpeg"});
-    QVERIFY(opener.opened.isEmpty());
-}
-
 void TestBatchDialog::settingsDialogLayout()
 {
     AppSettingsDialog dialog;
@@ -290,19 +285,19 @@ void TestBatchDialog::settingsDialogLayout()
 
     const QList<QComboBox*> combos = dialog.findChildren<QComboBox*>();
     QCOMPARE(combos.size(), 2);
+    const auto items = [](const QComboBox* combo) {
+        QStringList texts;
+        for (int i = 0; i < combo->count(); ++i)
+            texts << combo->itemText(i);
+        return texts;
+    };
     QComboBox* formats = combos.at(0);
-    QStringList items;
-    for (int i = 0; i < formats->count(); ++i)
-        items << formats->itemText(i);
-    QCOMPARE(items, (QStringList{"JPEG", "PNG", "BMP", "TIFF", "PPM", "XPM"}));
+    QCOMPARE(items(formats), (QStringList{"JPEG", "PNG", "BMP", "TIFF", "PPM", "XPM"}));
     QCOMPARE(formats->minimumWidth(), 140);
     QCOMPARE(formats->maximumWidth(), 140);
     QCOMPARE(labelText(&dialog, formats), QString("Format:"));
     QComboBox* numbers = combos.at(1);
-    items.clear();
-    for (int i = 0; i < numbers->count(); ++i)
-        items << numbers->itemText(i);
-    QCOMPARE(items, (QStringList{"All", "Odd", "Even"}));
+    QCOMPARE(items(numbers), (QStringList{"All", "Odd", "Even"}));
     QCOMPARE(labelText(&dialog, numbers), QString("Numbers:"));
 
     auto* quality = dialog.findChild<ComboSlider*>();
