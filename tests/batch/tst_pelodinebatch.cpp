@@ -25,28 +25,14 @@ struct Outcome
     QString err;
 };
 
-// Two watermark operations over a photo big enough to show them, then an Invert.
-const char watermarkFlow[] = "<OperationsFlow>\n"
-                             " <Operation name=\"Invert\" index=\"1\">\n"
-                             "  <Parameters>\n"
-                             "   <Active>yes</Active>\n"
-                             "  </Parameters>\n"
-                             " </Operation>\n"
-                             " <Operation name=\"Watermark\" index=\"0\">\n"
-                             "  <Parameters>\n"
-                             "   <Active>yes</Active>\n"
-                             "   <Mode>0</Mode>\n"
-                             "   <Size>40</Size>\n"
-                             "   <Text>Watermark</Text>\n"
-                             "   <Position>BottomRight</Position>\n"
-                             "   <Transparency>25</Transparency>\n"
-                             "   <Color>#ffffff</Color>\n"
-                             "   <Background>#000000</Background>\n"
-                             "   <BackgroundEnabled>yes</BackgroundEnabled>\n"
-                             "   <Font>DejaVu Sans</Font>\n"
-                             "  </Parameters>\n"
-                             " </Operation>\n"
-                             "</OperationsFlow>\n";
+// A text watermark, then an Invert: listed in the other order, so the indices must decide.
+const char watermarkFlow[] =
+    "<OperationsFlow><Operation name=\"Invert\" index=\"1\"><Parameters><Active>yes</Active>"
+    "</Parameters></Operation><Operation name=\"Watermark\" index=\"0\"><Parameters>"
+    "<Active>yes</Active><Mode>0</Mode><Size>40</Size><Text>Watermark</Text>"
+    "<Position>BottomRight</Position><Transparency>25</Transparency><Color>#ffffff</Color>"
+    "<Background>#000000</Background><BackgroundEnabled>yes</BackgroundEnabled>"
+    "<Font>DejaVu Sans</Font></Parameters></Operation></OperationsFlow>";
 
 } // namespace
 
@@ -358,13 +344,9 @@ void TestPelodineBatch::flowByName_data()
 void TestPelodineBatch::flowByName()
 {
     QFETCH(QString, flow);
-    writeText(FlowFile::flowsFolder() + "invert.flow", "<OperationsFlow>\n"
-                                                       " <Operation name=\"Invert\" index=\"0\">\n"
-                                                       "  <Parameters>\n"
-                                                       "   <Active>yes</Active>\n"
-                                                       "  </Parameters>\n"
-                                                       " </Operation>\n"
-                                                       "</OperationsFlow>\n");
+    writeText(FlowFile::flowsFolder() + "invert.flow",
+              "<OperationsFlow><Operation name=\"Invert\" index=\"0\"><Parameters>"
+              "<Active>yes</Active></Parameters></Operation></OperationsFlow>");
     const QString photo = writePhoto(inFolder, "a.png", 0xff102030);
     QCOMPARE(run({"--flow", flow, "--format", "PNG", "--output", outFolder, photo}).exitCode, 0);
     QCOMPARE_IMAGES(QImage(outFolder + "a.png"), TestUtils::filledImage(16, 8, 0xffefdfcf));
