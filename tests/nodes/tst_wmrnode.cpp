@@ -152,24 +152,16 @@ void TestWMRNode::offsetsClampToTheSpinBoxes_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("XOffset 50") << "XOffset"
-                                << "50"
-                                << "33";
-    QTest::newRow("XOffset -50") << "XOffset"
-                                 << "-50"
-                                 << "-33";
-    QTest::newRow("YOffset 34") << "YOffset"
-                                << "34"
-                                << "33";
-    QTest::newRow("YOffset in range") << "YOffset"
-                                      << "-20"
-                                      << "-20";
-    QTest::newRow("Size 0 clamps to 1") << "Size"
-                                        << "0"
-                                        << "1";
-    QTest::newRow("Transparency 101") << "Transparency"
-                                      << "101"
-                                      << "100";
+    const auto row = [](const char* tag, const QString& key, const QString& stored,
+                        const QString& expected) {
+        QTest::newRow(tag) << key << stored << expected;
+    };
+    row("XOffset 50", "XOffset", "50", "33");
+    row("XOffset -50", "XOffset", "-50", "-33");
+    row("YOffset 34", "YOffset", "34", "33");
+    row("YOffset in range", "YOffset", "-20", "-20");
+    row("Size 0 clamps to 1", "Size", "0", "1");
+    row("Transparency 101", "Transparency", "101", "100");
 }
 
 void TestWMRNode::offsetsClampToTheSpinBoxes()
