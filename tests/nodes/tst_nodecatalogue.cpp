@@ -119,6 +119,7 @@ void TestNodeCatalogue::nodeByName()
     QVERIFY(node);
     QCOMPARE(node->metaObject()->className(), qPrintable(className));
     QCOMPARE(node->name(), name);
+    QVERIFY(node->isActive());
     QCOMPARE(node->parentWidget(), &parent);
     auto* box = node->findChild<QGroupBox*>();
     QVERIFY(box && box->isCheckable() && box->isChecked());
