@@ -16,8 +16,8 @@ QString makeSandboxHome()
         const char* subFolders[] = {".config", ".local/share", ".cache", "Pictures", "runtime"};
         for (const char* folder : subFolders)
             QDir(home).mkpath(folder);
-        QFile::setPermissions(home + "/runtime", QFileDevice::ReadOwner | QFileDevice::WriteOwner
-                                                     | QFileDevice::ExeOwner);
+        QFile::setPermissions(home + "/runtime", QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                                     QFileDevice::ExeOwner);
         qputenv("HOME", home.toLocal8Bit());
         qputenv("XDG_CONFIG_HOME", (home + "/.config").toLocal8Bit());
         qputenv("XDG_DATA_HOME", (home + "/.local/share").toLocal8Bit());
@@ -64,6 +64,15 @@ QImage filledImage(int width, int height, QRgb argb)
     QImage image(width, height, QImage::Format_ARGB32);
     image.fill(argb);
     return image;
+}
+
+QVector<QPair<QString, QString>> keyValues(const QString& text)
+{
+    QVector<QPair<QString, QString>> pairs;
+    const QStringList items = text.split('|');
+    for (const QString& item : items)
+        pairs.append({item.section('=', 0, 0), item.section('=', 1)});
+    return pairs;
 }
 
 } // namespace TestUtils

@@ -3,9 +3,11 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QPair>
 #include <QString>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QVector>
 
 namespace TestUtils {
 
@@ -22,6 +24,10 @@ QString imageDifference(const QImage& actual, const QImage& expected);
 
 // An ARGB32 image of the given size filled with one colour word.
 QImage filledImage(int width, int height, QRgb argb);
+
+// The pairs of "key=value|key=value" in order, for long parameter lists written by hand;
+// a value may hold '=' (base64 padding) but not '|'.
+QVector<QPair<QString, QString>> keyValues(const QString& text);
 
 } // namespace TestUtils
 

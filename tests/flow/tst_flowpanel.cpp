@@ -165,11 +165,11 @@ QAction* menuAction(const QMenu* menu, const QString& text)
 }
 
 // (tag, text) of the children of a Parameters text.
-QList<QPair<QString, QString>> parameterValues(const QString& parametersText)
+QVector<QPair<QString, QString>> parameterValues(const QString& parametersText)
 {
     QDomDocument document;
     document.setContent(parametersText);
-    QList<QPair<QString, QString>> values;
+    QVector<QPair<QString, QString>> values;
     for (QDomElement e = document.documentElement().firstChildElement(); !e.isNull();
          e = e.nextSiblingElement())
         values.append({e.tagName(), e.text()});
@@ -763,14 +763,7 @@ void TestFlowPanel::saveThenLoadEveryKind()
         return QString();
     }();
 
-    using Values = QList<QPair<QString, QString>>;
-    // "key=value|key=value"; a value may hold '=' (base64 padding) but not '|'.
-    const auto keyValues = [](const QString& text) {
-        Values values;
-        for (const QString& pair : text.split('|'))
-            values.append({pair.section('=', 0, 0), pair.section('=', 1)});
-        return values;
-    };
+    using Values = QVector<QPair<QString, QString>>;
     const QList<QPair<QString, Values>> flow = {
         {"RGB-Order", {{"Active", "yes"}, {"Mode", "2"}}},
         {"Brightness, Contrast, Saturation",
@@ -780,12 +773,12 @@ void TestFlowPanel::saveThenLoadEveryKind()
         {"Invert", {{"Active", "no"}}},
         {"Mirror", {{"Active", "yes"}, {"Horizontal", "no"}, {"Vertical", "yes"}}},
         {"Grayscale", {{"Active", "yes"}}},
-        {"Watermark",
-         keyValues(QString("Active=yes|Mode=1|Size=42|Text=%1|Position=TopMiddle|Expand=yes|"
-                           "Bold=yes|Italic=no|Underlined=yes|XOffset=-5|YOffset=7|"
-                           "Transparency=60|Color=#12ab34|Background=#fedcba|"
-                           "BackgroundEnabled=yes|Font=%2|ImageData=%3|ImageName=logo.png")
-                       .arg("\u00dcber & <\"quoted\"> ]]>", font, logoData))},
+        {"Watermark", TestUtils::keyValues(
+                          QString("Active=yes|Mode=1|Size=42|Text=%1|Position=TopMiddle|Expand=yes|"
+                                  "Bold=yes|Italic=no|Underlined=yes|XOffset=-5|YOffset=7|"
+                                  "Transparency=60|Color=#12ab34|Background=#fedcba|"
+                                  "BackgroundEnabled=yes|Font=%2|ImageData=%3|ImageName=logo.png")
+                              .arg("\u00dcber & <\"quoted\"> ]]>", font, logoData))},
         {"Crop",
          {{"Active", "no"}, {"Left", "10"}, {"Right", "20"}, {"Top", "5"}, {"Bottom", "1"}}},
         {"Resize", {{"Active", "yes"}, {"Mode", "2"}, {"Width", "1200"}, {"Height", "800"}}},

@@ -21,7 +21,6 @@ class TestBaseNode : public QObject
 
 private slots:
     void cleanup();
-    void newNodeIsActive();
     void grayscaleParametersText();
     void activeText_data();
     void activeText();
@@ -63,15 +62,6 @@ QImage pureRed()
 void TestBaseNode::cleanup()
 {
     CommonData::instance()->previewMode = 1;
-}
-
-void TestBaseNode::newNodeIsActive()
-{
-    for (const QString& name : factoryNodeNames()) {
-        auto node = newNode(name);
-        QVERIFY2(node->isActive(), qPrintable(name));
-        QCOMPARE(node->name(), name);
-    }
 }
 
 void TestBaseNode::grayscaleParametersText()
@@ -181,23 +171,12 @@ void TestBaseNode::roundTrip_data()
     row("Mirror", "yes", {{"Horizontal", "no"}, {"Vertical", "yes"}});
     row("Grayscale", "no", {});
     row("Watermark", "no",
-        {{"Mode", "1"},
-         {"Size", "35"},
-         {"Text", "Copyright 2026 Ünïcode"},
-         {"Position", "TopMiddle"},
-         {"Expand", "yes"},
-         {"Bold", "yes"},
-         {"Italic", "yes"},
-         {"Underlined", "yes"},
-         {"XOffset", "-12"},
-         {"YOffset", "7"},
-         {"Transparency", "60"},
-         {"Color", "#12ab34"},
-         {"Background", "#fedcba"},
-         {"BackgroundEnabled", "yes"},
-         {"Font", family},
-         {"ImageData", pngDataUri(logo)},
-         {"ImageName", "mylogo.jpg"}});
+        TestUtils::keyValues(
+            QString("Mode=1|Size=35|Text=Copyright 2026 Ünïcode|Position=TopMiddle|Expand=yes|"
+                    "Bold=yes|Italic=yes|Underlined=yes|XOffset=-12|YOffset=7|Transparency=60|"
+                    "Color=#12ab34|Background=#fedcba|BackgroundEnabled=yes|Font=%1|"
+                    "ImageData=%2|ImageName=mylogo.jpg")
+                .arg(family, pngDataUri(logo))));
     row("Crop", "yes", {{"Left", "5"}, {"Right", "10"}, {"Top", "15"}, {"Bottom", "20"}});
     row("Resize", "yes", {{"Mode", "1"}, {"Width", "1024"}, {"Height", "768"}});
     row("Histogram optimizer", "no", {{"Left", "3"}, {"Right", "7"}});
@@ -257,14 +236,8 @@ void TestBaseNode::processMatchesHeadless_data()
     row("Mirror both", "Mirror", {{"Horizontal", "yes"}, {"Vertical", "yes"}});
     row("Grayscale", "Grayscale", {});
     row("Watermark text", "Watermark",
-        {{"Size", "40"},
-         {"Text", "Pelodine"},
-         {"Position", "Middle"},
-         {"Bold", "yes"},
-         {"XOffset", "5"},
-         {"Transparency", "10"},
-         {"Color", "#ff0000"},
-         {"BackgroundEnabled", "yes"}});
+        TestUtils::keyValues("Size=40|Text=Pelodine|Position=Middle|Bold=yes|XOffset=5|"
+                             "Transparency=10|Color=#ff0000|BackgroundEnabled=yes"));
     row("Watermark logo", "Watermark",
         {{"Mode", "1"}, {"Size", "50"}, {"Position", "TopLeft"}, {"Transparency", "0"}});
     row("Watermark logo expanded", "Watermark", {{"Mode", "1"}, {"Expand", "yes"}});
