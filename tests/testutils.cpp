@@ -1,5 +1,6 @@
 #include "testutils.h"
 
+#include <QBuffer>
 #include <QDir>
 
 namespace TestUtils {
@@ -64,6 +65,29 @@ QImage filledImage(int width, int height, QRgb argb)
     QImage image(width, height, QImage::Format_ARGB32);
     image.fill(argb);
     return image;
+}
+
+QByteArray jpegWithOrientation(const QImage& image, quint16 orientation)
+{
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "JPEG", 95);
+
+    // A big-endian TIFF block: header with the IFD at 8, one entry (tag 0x0112 orientation,
+    // type SHORT, count 1, the value padded to four bytes), no further IFD.
+    const QByteArray tiff = QByteArray::fromHex("4d4d002a00000008"
+                                                "0001"
+                                                "0112000300000001") +
+                            char(orientation >> 8) + char(orientation & 0xff) + QByteArray(6, '\0');
+    const QByteArray payload = QByteArray("Exif\0\0", 6) + tiff;
+    const int length = payload.size() + 2;
+    const QByteArray segment =
+        QByteArray("\xff\xe1", 2) + char(length >> 8) + char(length & 0xff) + payload;
+    // After the start-of-image marker and Qt's JFIF segment.
+    const int jfifLength = (uchar(jpeg.at(4)) << 8) | uchar(jpeg.at(5));
+    jpeg.insert(4 + jfifLength, segment);
+    return jpeg;
 }
 
 QVector<QPair<QString, QString>> keyValues(const QString& text)

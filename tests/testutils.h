@@ -25,6 +25,10 @@ QString imageDifference(const QImage& actual, const QImage& expected);
 // An ARGB32 image of the given size filled with one colour word.
 QImage filledImage(int width, int height, QRgb argb);
 
+// image as a JPEG whose APP1 segment carries the EXIF orientation tag (6: turn 90 degrees
+// clockwise to show it upright).
+QByteArray jpegWithOrientation(const QImage& image, quint16 orientation);
+
 // The pairs of "key=value|key=value" in order, for long parameter lists written by hand;
 // a value may hold '=' (base64 padding) but not '|'.
 QVector<QPair<QString, QString>> keyValues(const QString& text);

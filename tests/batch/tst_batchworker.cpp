@@ -6,9 +6,7 @@
 #include "outputsettings.h"
 #include "testutils.h"
 
-#include <QBuffer>
 #include <QDir>
-#include <QImageWriter>
 #include <QSignalSpy>
 
 #include <atomic>
@@ -179,21 +177,15 @@ void TestBatchWorker::outputFileName_data()
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("photo.final.jpg") << "photo.final.jpg"
-                                     << "PNG"
-                                     << "photo.final.png";
-    QTest::newRow("archive.tar.gz") << "archive.tar.gz"
-                                    << "TIFF"
-                                    << "archive.tar.tiff";
-    QTest::newRow("holiday.jpeg as PNG") << "holiday.jpeg"
-                                         << "PNG"
-                                         << "holiday.png";
-    QTest::newRow("JPEG gives jpeg") << "shot.png"
-                                     << "JPEG"
-                                     << "shot.jpeg";
-    QTest::newRow("no extension") << "scan"
-                                  << "PPM"
-                                  << "scan.ppm";
+    const auto row = [](const char* tag, const QString& source, const QString& format,
+                        const QString& expected) {
+        QTest::newRow(tag) << source << format << expected;
+    };
+    row("photo.final.jpg", "photo.final.jpg", "PNG", "photo.final.png");
+    row("archive.tar.gz", "archive.tar.gz", "TIFF", "archive.tar.tiff");
+    row("holiday.jpeg as PNG", "holiday.jpeg", "PNG", "holiday.png");
+    row("JPEG gives jpeg", "shot.png", "JPEG", "shot.jpeg");
+    row("no extension", "scan", "PPM", "scan.ppm");
 }
 
 // The sources hold PNG data whatever their names say; the reader goes by the contents.
@@ -262,24 +254,11 @@ void TestBatchWorker::photoIsReadUpright()
         for (int x = 0; x < 16; ++x)
             stored.setPixel(x, y, 0xffff0000);
     }
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "JPEG");
-    writer.setQuality(100);
-    QVERIFY(writer.write(stored));
-    const QByteArray exif = QByteArray::fromHex("ffe10022"
-                                                "457869660000"
-                                                "49492a0008000000"
-                                                "0100"
-                                                "120103000100000006000000"
-                                                "00000000");
-    QByteArray jpeg = buffer.data();
-    jpeg.insert(2, exif);
     const QString path = inFolder + "/turned.jpg";
     QDir().mkpath(inFolder);
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(jpeg);
+    file.write(TestUtils::jpegWithOrientation(stored, 6));
     file.close();
 
     const BatchEngine::Photo photo = BatchEngine::load(path);

@@ -7,10 +7,6 @@
 
 namespace PhotoFixtures {
 
-// image as a JPEG whose APP1 segment carries the EXIF orientation tag (6: turn 90 degrees
-// clockwise to show it upright).
-QByteArray jpegWithOrientation(const QImage& image, quint16 orientation);
-
 // Writes data to path, creating the folders on the way; returns path.
 QString writeFile(const QString& path, const QByteArray& data);
 

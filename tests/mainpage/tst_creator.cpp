@@ -48,7 +48,7 @@ void TestCreator::initTestCase()
     PhotoFixtures::writePng(dir.filePath("tall.png"), 300, 2000);
     PhotoFixtures::writeFile(
         dir.filePath("turned.jpg"),
-        PhotoFixtures::jpegWithOrientation(PhotoFixtures::halvesPicture(400, 200), 6));
+        TestUtils::jpegWithOrientation(PhotoFixtures::halvesPicture(400, 200), 6));
     PhotoFixtures::writeFile(dir.filePath("broken.jpg"), "not a photo");
 }
 

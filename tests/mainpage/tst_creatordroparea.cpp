@@ -337,7 +337,7 @@ void TestCreatorDropArea::turnedPhotoShownUpright()
     // Stored 400 x 200 with orientation 6: upright 200 x 400, red on top; fitted 360 x 720.
     const QString path = PhotoFixtures::writeFile(
         dir.filePath("turned.jpg"),
-        PhotoFixtures::jpegWithOrientation(PhotoFixtures::halvesPicture(400, 200), 6));
+        TestUtils::jpegWithOrientation(PhotoFixtures::halvesPicture(400, 200), 6));
     CreatorDropArea area;
     area.setPhotos({QUrl::fromLocalFile(path)});
     const QImage picture = area.picture().toImage();

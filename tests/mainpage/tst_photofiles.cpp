@@ -70,7 +70,7 @@ void TestPhotoFiles::readTurnsUpright()
 
     const QString path = PhotoFixtures::writeFile(
         dir.filePath(QString("turned%1.jpg").arg(orientation)),
-        PhotoFixtures::jpegWithOrientation(PhotoFixtures::halvesPicture(40, 20), orientation));
+        TestUtils::jpegWithOrientation(PhotoFixtures::halvesPicture(40, 20), orientation));
     const QImage photo = PhotoFiles::read(path);
     QCOMPARE(photo.size(), size);
     QVERIFY(isReddish(photo.pixel(redPoint)));
@@ -83,7 +83,7 @@ void TestPhotoFiles::readFittedTurnsUpright()
     // 50 x 100 with red on top.
     const QString path = PhotoFixtures::writeFile(
         dir.filePath("turnedlarge.jpg"),
-        PhotoFixtures::jpegWithOrientation(PhotoFixtures::halvesPicture(400, 200), 6));
+        TestUtils::jpegWithOrientation(PhotoFixtures::halvesPicture(400, 200), 6));
     const QImage photo = PhotoFiles::readFitted(path, QSize(100, 100));
     QCOMPARE(photo.size(), QSize(50, 100));
     QVERIFY(isReddish(photo.pixel(25, 10)));
