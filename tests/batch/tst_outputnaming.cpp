@@ -36,20 +36,16 @@ void TestOutputNaming::baseName_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("one extension") << "/photos/holiday.jpeg"
-                                   << "holiday";
-    QTest::newRow("two dots keep the first") << "/photos/photo.final.jpg"
-                                             << "photo.final";
-    QTest::newRow("archive.tar.gz") << "archive.tar.gz"
-                                    << "archive.tar";
-    QTest::newRow("no dot stays whole") << "/photos/README"
-                                        << "README";
-    QTest::newRow("dot in the folder only") << "/photos.2024/scan"
-                                            << "scan";
-    QTest::newRow("leading dot leaves nothing") << "/photos/.hidden"
-                                                << "";
-    QTest::newRow("trailing dot") << "/photos/odd."
-                                  << "odd";
+    const auto row = [](const char* tag, const QString& path, const QString& expected) {
+        QTest::newRow(tag) << path << expected;
+    };
+    row("one extension", "/photos/holiday.jpeg", "holiday");
+    row("two dots keep the first", "/photos/photo.final.jpg", "photo.final");
+    row("archive.tar.gz", "archive.tar.gz", "archive.tar");
+    row("no dot stays whole", "/photos/README", "README");
+    row("dot in the folder only", "/photos.2024/scan", "scan");
+    row("leading dot leaves nothing", "/photos/.hidden", "");
+    row("trailing dot", "/photos/odd.", "odd");
 }
 
 void TestOutputNaming::baseName()
@@ -63,18 +59,15 @@ void TestOutputNaming::extension_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("JPEG is jpeg, not jpg") << "JPEG"
-                                           << "jpeg";
-    QTest::newRow("PNG") << "PNG"
-                         << "png";
-    QTest::newRow("BMP") << "BMP"
-                         << "bmp";
-    QTest::newRow("TIFF") << "TIFF"
-                          << "tiff";
-    QTest::newRow("PPM") << "PPM"
-                         << "ppm";
-    QTest::newRow("XPM") << "XPM"
-                         << "xpm";
+    const auto row = [](const char* tag, const QString& format, const QString& expected) {
+        QTest::newRow(tag) << format << expected;
+    };
+    row("JPEG is jpeg, not jpg", "JPEG", "jpeg");
+    row("PNG", "PNG", "png");
+    row("BMP", "BMP", "bmp");
+    row("TIFF", "TIFF", "tiff");
+    row("PPM", "PPM", "ppm");
+    row("XPM", "XPM", "xpm");
 }
 
 void TestOutputNaming::extension()
