@@ -682,12 +682,7 @@ Overwrite?</source>
         <translation>Weniger Optionen</translation>
     </message>
     <message>
-        <location line="+1"/>
-        <source>Watermark</source>
-        <translation>Wasserzeichen</translation>
-    </message>
-    <message>
-        <location line="+2"/>
+        <location line="+4"/>
         <source>Bold</source>
         <translation>Fett</translation>
     </message>

@@ -682,12 +682,7 @@ Overwrite?</source>
         <translation>Меньше параметров</translation>
     </message>
     <message>
-        <location line="+1"/>
-        <source>Watermark</source>
-        <translation>Водяной знак</translation>
-    </message>
-    <message>
-        <location line="+2"/>
+        <location line="+4"/>
         <source>Bold</source>
         <translation>Жирный</translation>
     </message>
