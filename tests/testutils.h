@@ -29,6 +29,12 @@ QImage filledImage(int width, int height, QRgb argb);
 // clockwise to show it upright).
 QByteArray jpegWithOrientation(const QImage& image, quint16 orientation);
 
+// Adds a data row named tag holding values in column order, so that a table reads one row a line.
+template <typename... Values> void addRow(const char* tag, const Values&... values)
+{
+    (QTest::newRow(tag) << ... << values);
+}
+
 // The pairs of "key=value|key=value" in order, for long parameter lists written by hand;
 // a value may hold '=' (base64 padding) but not '|'.
 QVector<QPair<QString, QString>> keyValues(const QString& text);

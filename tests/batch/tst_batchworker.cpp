@@ -177,15 +177,11 @@ void TestBatchWorker::outputFileName_data()
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("expected");
-    const auto row = [](const char* tag, const QString& source, const QString& format,
-                        const QString& expected) {
-        QTest::newRow(tag) << source << format << expected;
-    };
-    row("photo.final.jpg", "photo.final.jpg", "PNG", "photo.final.png");
-    row("archive.tar.gz", "archive.tar.gz", "TIFF", "archive.tar.tiff");
-    row("holiday.jpeg as PNG", "holiday.jpeg", "PNG", "holiday.png");
-    row("JPEG gives jpeg", "shot.png", "JPEG", "shot.jpeg");
-    row("no extension", "scan", "PPM", "scan.ppm");
+    TestUtils::addRow("photo.final.jpg", "photo.final.jpg", "PNG", "photo.final.png");
+    TestUtils::addRow("archive.tar.gz", "archive.tar.gz", "TIFF", "archive.tar.tiff");
+    TestUtils::addRow("holiday.jpeg as PNG", "holiday.jpeg", "PNG", "holiday.png");
+    TestUtils::addRow("JPEG gives jpeg", "shot.png", "JPEG", "shot.jpeg");
+    TestUtils::addRow("no extension", "scan", "PPM", "scan.ppm");
 }
 
 // The sources hold PNG data whatever their names say; the reader goes by the contents.

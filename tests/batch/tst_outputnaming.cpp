@@ -36,16 +36,13 @@ void TestOutputNaming::baseName_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("expected");
-    const auto row = [](const char* tag, const QString& path, const QString& expected) {
-        QTest::newRow(tag) << path << expected;
-    };
-    row("one extension", "/photos/holiday.jpeg", "holiday");
-    row("two dots keep the first", "/photos/photo.final.jpg", "photo.final");
-    row("archive.tar.gz", "archive.tar.gz", "archive.tar");
-    row("no dot stays whole", "/photos/README", "README");
-    row("dot in the folder only", "/photos.2024/scan", "scan");
-    row("leading dot leaves nothing", "/photos/.hidden", "");
-    row("trailing dot", "/photos/odd.", "odd");
+    TestUtils::addRow("one extension", "/photos/holiday.jpeg", "holiday");
+    TestUtils::addRow("two dots keep the first", "/photos/photo.final.jpg", "photo.final");
+    TestUtils::addRow("archive.tar.gz", "archive.tar.gz", "archive.tar");
+    TestUtils::addRow("no dot stays whole", "/photos/README", "README");
+    TestUtils::addRow("dot in the folder only", "/photos.2024/scan", "scan");
+    TestUtils::addRow("leading dot leaves nothing", "/photos/.hidden", "");
+    TestUtils::addRow("trailing dot", "/photos/odd.", "odd");
 }
 
 void TestOutputNaming::baseName()
@@ -59,15 +56,12 @@ void TestOutputNaming::extension_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("expected");
-    const auto row = [](const char* tag, const QString& format, const QString& expected) {
-        QTest::newRow(tag) << format << expected;
-    };
-    row("JPEG is jpeg, not jpg", "JPEG", "jpeg");
-    row("PNG", "PNG", "png");
-    row("BMP", "BMP", "bmp");
-    row("TIFF", "TIFF", "tiff");
-    row("PPM", "PPM", "ppm");
-    row("XPM", "XPM", "xpm");
+    TestUtils::addRow("JPEG is jpeg, not jpg", "JPEG", "jpeg");
+    TestUtils::addRow("PNG", "PNG", "png");
+    TestUtils::addRow("BMP", "BMP", "bmp");
+    TestUtils::addRow("TIFF", "TIFF", "tiff");
+    TestUtils::addRow("PPM", "PPM", "ppm");
+    TestUtils::addRow("XPM", "XPM", "xpm");
 }
 
 void TestOutputNaming::extension()

@@ -513,14 +513,11 @@ void TestFlowFile::flowFileName_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("fileName");
-    const auto row = [](const char* tag, const QString& typed, const QString& fileName) {
-        QTest::newRow(tag) << typed << fileName;
-    };
-    row("empty", "", ".flow");
-    row("plain", "holiday", "holiday.flow");
-    row("with extension", "a.flow", "a.flow");
-    row("upper-case extension", "a.FLOW", "a.FLOW.flow");
-    row("extension inside", "a.flow.bak", "a.flow.bak.flow");
+    TestUtils::addRow("empty", "", ".flow");
+    TestUtils::addRow("plain", "holiday", "holiday.flow");
+    TestUtils::addRow("with extension", "a.flow", "a.flow");
+    TestUtils::addRow("upper-case extension", "a.FLOW", "a.FLOW.flow");
+    TestUtils::addRow("extension inside", "a.flow.bak", "a.flow.bak.flow");
 }
 
 void TestFlowFile::flowFileName()
@@ -534,16 +531,13 @@ void TestFlowFile::findFlow_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("found");
-    const auto row = [](const char* tag, const QString& name, const QString& found) {
-        QTest::newRow(tag) << name << found;
-    };
-    row("without extension", "holiday", "holiday.flow");
-    row("with extension", "holiday.flow", "holiday.flow");
-    row("only the flow file counts", "notes", "notes.flow");
-    row("a file without extension is no flow", "readme", "");
-    row("missing", "winter", "");
-    row("empty", "", "");
-    row("a folder is no flow", "folder", "");
+    TestUtils::addRow("without extension", "holiday", "holiday.flow");
+    TestUtils::addRow("with extension", "holiday.flow", "holiday.flow");
+    TestUtils::addRow("only the flow file counts", "notes", "notes.flow");
+    TestUtils::addRow("a file without extension is no flow", "readme", "");
+    TestUtils::addRow("missing", "winter", "");
+    TestUtils::addRow("empty", "", "");
+    TestUtils::addRow("a folder is no flow", "folder", "");
 }
 
 void TestFlowFile::findFlow()

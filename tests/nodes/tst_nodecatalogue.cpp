@@ -69,30 +69,28 @@ void TestNodeCatalogue::nodeByName_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("className");
     QTest::addColumn<QString>("icon");
-    const auto row = [](const char* tag, const QString& name, const QString& className,
-                        const QString& icon) { QTest::newRow(tag) << name << className << icon; };
-    row("RGB-Order", "RGB-Order", "RGBNode", "Icon_RGB.png");
-    row("BCS", "Brightness, Contrast, Saturation", "BCSNode", "Icon_BRT.png");
-    row("Rotate", "Rotate", "RTTNode", "Icon_RTT.png");
-    row("Blur", "Blur", "BLRNode", "Icon_BLR.png");
-    row("Invert", "Invert", "INVNode", "Icon_INV.png");
-    row("Mirror", "Mirror", "MRRNode", "Icon_MRR.png");
-    row("Grayscale", "Grayscale", "GRSNode", "Icon_GRS.png");
-    row("Watermark", "Watermark", "WMRNode", "Icon_WMR.png");
-    row("Crop", "Crop", "CRPNode", "Icon_CRP.png");
-    row("Resize", "Resize", "RSZNode", "Icon_RSZ.png");
-    row("Histogram", "Histogram optimizer", "HSTNode", "Icon_HST.png");
-    row("Frame", "Frame", "FRMNode", "Icon_FRM.png");
-    row("Binarization", "Binarization", "BINNode", "Icon_BIN.png");
-    row("Vignetting", "Vignetting", "UCSNode", "Icon_WGN.png");
+    TestUtils::addRow("RGB-Order", "RGB-Order", "RGBNode", "Icon_RGB.png");
+    TestUtils::addRow("BCS", "Brightness, Contrast, Saturation", "BCSNode", "Icon_BRT.png");
+    TestUtils::addRow("Rotate", "Rotate", "RTTNode", "Icon_RTT.png");
+    TestUtils::addRow("Blur", "Blur", "BLRNode", "Icon_BLR.png");
+    TestUtils::addRow("Invert", "Invert", "INVNode", "Icon_INV.png");
+    TestUtils::addRow("Mirror", "Mirror", "MRRNode", "Icon_MRR.png");
+    TestUtils::addRow("Grayscale", "Grayscale", "GRSNode", "Icon_GRS.png");
+    TestUtils::addRow("Watermark", "Watermark", "WMRNode", "Icon_WMR.png");
+    TestUtils::addRow("Crop", "Crop", "CRPNode", "Icon_CRP.png");
+    TestUtils::addRow("Resize", "Resize", "RSZNode", "Icon_RSZ.png");
+    TestUtils::addRow("Histogram", "Histogram optimizer", "HSTNode", "Icon_HST.png");
+    TestUtils::addRow("Frame", "Frame", "FRMNode", "Icon_FRM.png");
+    TestUtils::addRow("Binarization", "Binarization", "BINNode", "Icon_BIN.png");
+    TestUtils::addRow("Vignetting", "Vignetting", "UCSNode", "Icon_WGN.png");
     // The factory wants the whole name; the icon lookup a part of it, first word in its order.
-    row("part of a longer name", "My Watermark 2", "", "Icon_WMR.png");
-    row("first word in lookup order wins", "Crop, then Blur", "", "Icon_BLR.png");
-    row("trailing blank", "Blur ", "", "Icon_BLR.png");
-    row("letter case", "blur", "", "");
-    row("sharpness is dormant", "Sharpness", "", "");
-    row("colorize is dormant", "Colorize", "", "");
-    row("empty", "", "", "");
+    TestUtils::addRow("part of a longer name", "My Watermark 2", "", "Icon_WMR.png");
+    TestUtils::addRow("first word in lookup order wins", "Crop, then Blur", "", "Icon_BLR.png");
+    TestUtils::addRow("trailing blank", "Blur ", "", "Icon_BLR.png");
+    TestUtils::addRow("letter case", "blur", "", "");
+    TestUtils::addRow("sharpness is dormant", "Sharpness", "", "");
+    TestUtils::addRow("colorize is dormant", "Colorize", "", "");
+    TestUtils::addRow("empty", "", "", "");
 }
 
 void TestNodeCatalogue::nodeByName()

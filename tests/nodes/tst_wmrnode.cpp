@@ -152,16 +152,12 @@ void TestWMRNode::offsetsClampToTheSpinBoxes_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("expected");
-    const auto row = [](const char* tag, const QString& key, const QString& stored,
-                        const QString& expected) {
-        QTest::newRow(tag) << key << stored << expected;
-    };
-    row("XOffset 50", "XOffset", "50", "33");
-    row("XOffset -50", "XOffset", "-50", "-33");
-    row("YOffset 34", "YOffset", "34", "33");
-    row("YOffset in range", "YOffset", "-20", "-20");
-    row("Size 0 clamps to 1", "Size", "0", "1");
-    row("Transparency 101", "Transparency", "101", "100");
+    TestUtils::addRow("XOffset 50", "XOffset", "50", "33");
+    TestUtils::addRow("XOffset -50", "XOffset", "-50", "-33");
+    TestUtils::addRow("YOffset 34", "YOffset", "34", "33");
+    TestUtils::addRow("YOffset in range", "YOffset", "-20", "-20");
+    TestUtils::addRow("Size 0 clamps to 1", "Size", "0", "1");
+    TestUtils::addRow("Transparency 101", "Transparency", "101", "100");
 }
 
 void TestWMRNode::offsetsClampToTheSpinBoxes()
