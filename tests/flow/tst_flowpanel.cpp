@@ -299,14 +299,11 @@ void TestFlowPanel::widgetsCarryTheirNames_data()
     QTest::addColumn<QString>("objectName");
     QTest::addColumn<QString>("toolTip");
     QTest::addColumn<QSize>("fixedSize");
-    QTest::newRow("add") << "PushButtonAdd"
-                         << "Add node" << QSize(40, 40);
-    QTest::newRow("remove") << "PushButtonRemove"
-                            << "Remove selected node" << QSize(40, 40);
-    QTest::newRow("flows") << "PushButton"
-                           << "" << QSize();
-    QTest::newRow("run batch") << "RunBatchButton"
-                               << "Save the resulted photos to the separate folder" << QSize();
+    TestUtils::addRow("add", "PushButtonAdd", "Add node", QSize(40, 40));
+    TestUtils::addRow("remove", "PushButtonRemove", "Remove selected node", QSize(40, 40));
+    TestUtils::addRow("flows", "PushButton", "", QSize());
+    TestUtils::addRow("run batch", "RunBatchButton",
+                      "Save the resulted photos to the separate folder", QSize());
 }
 
 void TestFlowPanel::widgetsCarryTheirNames()

@@ -53,16 +53,11 @@ void TestItemsModel::displayName_data()
     QTest::addColumn<QString>("fileName");
     QTest::addColumn<QString>("shown");
 
-    QTest::newRow("two dots") << "holiday.2024.png"
-                              << "holiday.2024";
-    QTest::newRow("a.b.jpg") << "a.b.jpg"
-                             << "a.b";
-    QTest::newRow("upper-case extension") << "IMG_0001.JPG"
-                                          << "IMG_0001";
-    QTest::newRow("no extension") << "README"
-                                  << "README";
-    QTest::newRow("only an extension") << ".hidden"
-                                       << "";
+    TestUtils::addRow("two dots", "holiday.2024.png", "holiday.2024");
+    TestUtils::addRow("a.b.jpg", "a.b.jpg", "a.b");
+    TestUtils::addRow("upper-case extension", "IMG_0001.JPG", "IMG_0001");
+    TestUtils::addRow("no extension", "README", "README");
+    TestUtils::addRow("only an extension", ".hidden", "");
 }
 
 void TestItemsModel::displayName()
