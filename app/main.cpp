@@ -8,20 +8,7 @@
 #include "startup.h"
 #include "translationsmanager.h"
 
-#include <QFile>
 #include <QTimer>
-
-namespace {
-
-QString readResourceText(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return {};
-    return QString::fromUtf8(file.readAll());
-}
-
-} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -44,7 +31,7 @@ int main(int argc, char* argv[])
     app->setOrganizationDomain("example.org");
     // Lets the desktop match our windows to the installed launcher.
     QGuiApplication::setDesktopFileName("org.qubrast.Pelodine");
-    app->setStyleSheet(readResourceText(":/stylesheet.qss"));
+    app->setStyleSheet(OrkWidgets::App::resourceText(":/stylesheet.qss"));
 
     if (app->isFirstStart())
         FlowFile::installSampleFlow();

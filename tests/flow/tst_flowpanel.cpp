@@ -1,3 +1,4 @@
+#include "app.h"
 #include "basenode.h"
 #include "favoritesdeletedlg.h"
 #include "flowfile.h"
@@ -867,9 +868,9 @@ void TestFlowPanel::thumbnailFollowsPreview()
 
 void TestFlowPanel::thumbnailsAreDrawnOnTheTabs()
 {
-    QFile styleSheet(":/stylesheet.qss");
-    QVERIFY(styleSheet.open(QIODevice::ReadOnly));
-    qApp->setStyleSheet(QString::fromUtf8(styleSheet.readAll()));
+    const QString styleSheet = OrkWidgets::App::resourceText(":/stylesheet.qss");
+    QVERIFY(!styleSheet.isEmpty());
+    qApp->setStyleSheet(styleSheet);
     const auto plainAgain = qScopeGuard([] { qApp->setStyleSheet(QString()); });
 
     panel->loadFlow(flowOfNames({"Watermark", "Brightness, Contrast, Saturation", "Vignetting",

@@ -179,9 +179,7 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     App app(argc, argv, "Qubrast", "Pelodine");
     app.setApplicationVersion("1.0");
-    QFile sheet(":/stylesheet.qss");
-    if (sheet.open(QIODevice::ReadOnly))
-        app.setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    app.setStyleSheet(App::resourceText(":/stylesheet.qss"));
     TestLanguageMenu test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -16,7 +16,7 @@
 #include "testutils.h"
 
 #include <QDirIterator>
-#include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPropertyAnimation>
@@ -129,9 +129,9 @@ void TestMainPage::frame()
 void TestMainPage::partsInTheirPlaces()
 {
     // With the program's own look, whose borders and bars take room of their own.
-    QFile sheet(":/stylesheet.qss");
-    QVERIFY(sheet.open(QIODevice::ReadOnly));
-    qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    const QString styleSheet = OrkWidgets::App::resourceText(":/stylesheet.qss");
+    QVERIFY(!styleSheet.isEmpty());
+    qApp->setStyleSheet(styleSheet);
     const auto plainLookAfterwards = qScopeGuard([] { qApp->setStyleSheet({}); });
     page->show();
     QVERIFY(QTest::qWaitForWindowExposed(page));

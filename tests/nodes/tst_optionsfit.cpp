@@ -1,12 +1,12 @@
 // Every node's options fit the options area of the main window (731 x 175 inside its frame)
 // under the program's own style sheet, in English and with words a quarter longer, as German
 // and Russian captions are; no caption is cut off.
+#include "app.h"
 #include "basenode.h"
 #include "nodesoptionspanel.h"
 #include "nodetesthelpers.h"
 #include "testutils.h"
 
-#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QScopeGuard>
@@ -69,9 +69,9 @@ private slots:
 
 void TestOptionsFit::initTestCase()
 {
-    QFile sheet(":/stylesheet.qss");
-    QVERIFY(sheet.open(QIODevice::ReadOnly));
-    qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    const QString styleSheet = OrkWidgets::App::resourceText(":/stylesheet.qss");
+    QVERIFY(!styleSheet.isEmpty());
+    qApp->setStyleSheet(styleSheet);
 }
 
 void TestOptionsFit::cleanupTestCase()

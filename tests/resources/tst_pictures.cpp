@@ -1,5 +1,6 @@
 // The compiled-in pictures: present, at the sizes the widgets show them, with a double-size
 // version that Qt picks on high-density screens, and every picture the style sheet names.
+#include "app.h"
 #include "testutils.h"
 
 #include <QFile>
@@ -108,9 +109,8 @@ void TestPictures::logoHasTransparentBackground()
 
 void TestPictures::styleSheetPicturesExist()
 {
-    QFile file(":/stylesheet.qss");
-    QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
-    const QString sheet = QString::fromUtf8(file.readAll());
+    const QString sheet = OrkWidgets::App::resourceText(":/stylesheet.qss");
+    QVERIFY(!sheet.isEmpty());
 
     const QRegularExpression url(R"(url\((:/[^)]+)\))");
     int count = 0;

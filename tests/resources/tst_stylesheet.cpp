@@ -1,8 +1,8 @@
 // The compiled-in style sheet draws the picture buttons by object name: each one shows its
 // picture, a checkable one looks different when checked, and a disabled one is dimmer.
+#include "app.h"
 #include "testutils.h"
 
-#include <QFile>
 #include <QPushButton>
 
 class TestStyleSheet : public QObject
@@ -21,9 +21,9 @@ private:
 
 void TestStyleSheet::initTestCase()
 {
-    QFile file(":/stylesheet.qss");
-    QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
-    qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
+    const QString styleSheet = OrkWidgets::App::resourceText(":/stylesheet.qss");
+    QVERIFY(!styleSheet.isEmpty());
+    qApp->setStyleSheet(styleSheet);
 }
 
 QImage TestStyleSheet::grabButton(const QString& objectName, const QSize& size, bool checked,

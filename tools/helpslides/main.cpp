@@ -21,7 +21,6 @@
 #include "translationsmanager.h"
 
 #include <QDir>
-#include <QFile>
 #include <QInputDialog>
 #include <QLinearGradient>
 #include <QMenu>
@@ -80,8 +79,7 @@ QImage landscape(int variant)
 
 QString sampleFlowText()
 {
-    QFile file(":/sample.flow");
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return OrkWidgets::App::resourceText(":/sample.flow");
 }
 
 void settle()
@@ -423,9 +421,7 @@ int main(int argc, char* argv[])
     TestUtils::makeSandboxHome();
     OrkWidgets::App app(argc, argv, "Qubrast", "Pelodine");
     app.setApplicationVersion("1.0");
-    QFile sheet(":/stylesheet.qss");
-    if (sheet.open(QIODevice::ReadOnly))
-        app.setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    app.setStyleSheet(OrkWidgets::App::resourceText(":/stylesheet.qss"));
     const QStringList arguments = QCoreApplication::arguments();
     QTextStream err(stderr);
     if (arguments.size() != 3 || (arguments.at(1) != "slides" && arguments.at(1) != "docs")) {

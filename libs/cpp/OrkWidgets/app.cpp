@@ -133,10 +133,19 @@ QStringList App::userFolders()
 
 QString App::outputBaseFolder()
 {
-    const QStringList pictures = QStandardPaths::standardLocations(QStandardPaths::PicturesLocation);
+    const QStringList pictures =
+        QStandardPaths::standardLocations(QStandardPaths::PicturesLocation);
     const QString base = pictures.isEmpty() ? QDir::homePath() : pictures.first();
-    return base + "/" + QCoreApplication::organizationName() + "/"
-           + QCoreApplication::applicationName() + "/";
+    return base + "/" + QCoreApplication::organizationName() + "/" +
+           QCoreApplication::applicationName() + "/";
+}
+
+QString App::resourceText(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {};
+    return QString::fromUtf8(file.readAll());
 }
 
 QVariant App::readSetting(const QString& key, const QVariant& defaultValue)
@@ -196,12 +205,11 @@ QString App::logLine(QtMsgType type, const QMessageLogContext& context, const QS
         level = " Fatal: ";
         break;
     }
-    return when.toString("dd.MM.yy-hh:mm") + QLatin1String(level) + message + ", "
-           + QString::fromUtf8(context.file);
+    return when.toString("dd.MM.yy-hh:mm") + QLatin1String(level) + message + ", " +
+           QString::fromUtf8(context.file);
 }
 
-void App::messageHandler(QtMsgType type, const QMessageLogContext& context,
-                         const QString& message)
+void App::messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     QFile file(dataFolder() + "protocol.log");
     if (file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text)) {

@@ -55,6 +55,9 @@ public:
     // First pictures location + "/" + organization + "/" + application + "/".
     static QString outputBaseFolder();
 
+    // The whole text of a file or compiled-in resource as UTF-8; empty when it cannot be read.
+    static QString resourceText(const QString& path);
+
     static QVariant readSetting(const QString& key, const QVariant& defaultValue = {});
     static void writeSetting(const QString& key, const QVariant& value);
 
