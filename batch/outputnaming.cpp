@@ -1,15 +1,8 @@
 #include "outputnaming.h"
 
-#include <QFileInfo>
+#include "commondata.h"
 
 namespace OutputNaming {
-
-QString baseName(const QString& filePath)
-{
-    const QString fileName = QFileInfo(filePath).fileName();
-    const int dot = fileName.lastIndexOf('.');
-    return dot < 0 ? fileName : fileName.left(dot);
-}
 
 QString extension(const QString& format)
 {
@@ -20,7 +13,7 @@ QString outputName(const QString& filePath, int index, bool rename, const QStrin
                    int numbers, int& oddCounter, int& evenCounter)
 {
     if (!rename)
-        return baseName(filePath);
+        return CommonData::displayNameOf(filePath);
     int number = index;
     if (numbers == 1) {
         number = oddCounter;

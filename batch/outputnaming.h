@@ -5,17 +5,13 @@
 
 namespace OutputNaming {
 
-// The file name without its last extension: "photo.final.jpg" gives "photo.final"; a name
-// without a dot stays whole. Folders in front of the name are dropped.
-QString baseName(const QString& filePath);
-
 // The file extension of an output format: its name in lower case ("JPEG" gives "jpeg").
 QString extension(const QString& format);
 
-// The name of the photo at index (0-based) of a run. With rename off, its base name; with
-// rename on, newName followed by the scheme's number: numbers 0 gives index, 1 gives
-// oddCounter and 2 (or anything else) evenCounter; the counter used then grows by 2, so that
-// the odd and even sequences continue across runs as long as their owner keeps them.
+// The name of the photo at index (0-based) of a run. With rename off, its display name
+// (CommonData::displayNameOf); with rename on, newName followed by the scheme's number: numbers 0
+// gives index, 1 gives oddCounter and 2 (or anything else) evenCounter; the counter used then grows
+// by 2, so that the odd and even sequences continue across runs as long as their owner keeps them.
 QString outputName(const QString& filePath, int index, bool rename, const QString& newName,
                    int numbers, int& oddCounter, int& evenCounter);
 

@@ -4,6 +4,7 @@
 //   (defaults: /tmp/pelodine-corpus/photos, Resize 50 % and a text Watermark, JPEG, 90)
 #include "batchengine.h"
 #include "benchsupport.h"
+#include "commondata.h"
 #include "flowfile.h"
 #include "nodecatalogue.h"
 #include "outputnaming.h"
@@ -109,7 +110,7 @@ int main(int argc, char* argv[])
             writer.write(image);
         });
         times[steps.at(step++)] << milliseconds([&] {
-            QSaveFile file(target.path() + "/" + OutputNaming::baseName(photo));
+            QSaveFile file(target.path() + "/" + CommonData::displayNameOf(photo));
             file.open(QIODevice::WriteOnly);
             file.write(encoded.data());
             file.commit();
@@ -136,7 +137,7 @@ int main(int argc, char* argv[])
         for (int i = 0; i < engine.count(); ++i) {
             const BatchEngine::Photo photo = engine.process(i);
             engine.write(photo.image,
-                         target.path() + "/" + OutputNaming::baseName(photos.at(i)) + extension);
+                         target.path() + "/" + CommonData::displayNameOf(photos.at(i)) + extension);
         }
     });
     out << "engine run (reading one photo ahead): " << QString::number(engineMs / 1000, 'f', 2)

@@ -21,5 +21,5 @@ QString CommonData::displayNameOf(const QString& fileName)
 {
     const QString name = QFileInfo(fileName).fileName();
     const int dot = name.lastIndexOf('.');
-    return dot >= 0 ? name.left(dot) : QFileInfo(fileName).baseName();
+    return dot >= 0 ? name.left(dot) : name;
 }

@@ -19,7 +19,8 @@ public:
 
     ItemsModel* itemsModel();
 
-    // The photo's file name without its last extension ("a.b.jpg" gives "a.b").
+    // The photo's file name without its last extension ("a.b.jpg" gives "a.b"; a name without
+    // a dot stays whole). The photo lists show it and the batch names its files by it.
     static QString displayNameOf(const QString& fileName);
 
 private:

@@ -1,4 +1,5 @@
 #include "app.h"
+#include "commondata.h"
 #include "outputnaming.h"
 #include "outputsettings.h"
 #include "testutils.h"
@@ -49,7 +50,7 @@ void TestOutputNaming::baseName()
 {
     QFETCH(QString, path);
     QFETCH(QString, expected);
-    QCOMPARE(OutputNaming::baseName(path), expected);
+    QCOMPARE(CommonData::displayNameOf(path), expected);
 }
 
 void TestOutputNaming::extension_data()
