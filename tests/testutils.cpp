@@ -2,6 +2,8 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QFileInfo>
+#include <QPainter>
 
 namespace TestUtils {
 
@@ -65,6 +67,29 @@ QImage filledImage(int width, int height, QRgb argb)
     QImage image(width, height, QImage::Format_ARGB32);
     image.fill(argb);
     return image;
+}
+
+QImage halvesPicture(int width, int height)
+{
+    QImage picture = filledImage(width, height, 0xffff0000);
+    QPainter(&picture).fillRect(width / 2, 0, width - width / 2, height, QColor(0, 0, 255));
+    return picture;
+}
+
+QString writeFile(const QString& path, const QByteArray& data)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(data);
+    return path;
+}
+
+QString writeImage(const QString& path, const QImage& image)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    image.save(path);
+    return path;
 }
 
 QByteArray jpegWithOrientation(const QImage& image, quint16 orientation)

@@ -25,6 +25,15 @@ QString imageDifference(const QImage& actual, const QImage& expected);
 // An ARGB32 image of the given size filled with one colour word.
 QImage filledImage(int width, int height, QRgb argb);
 
+// A picture red on its left half and blue on its right, to see which way it was turned.
+QImage halvesPicture(int width, int height);
+
+// Writes data to path, making the folders on the way; returns path.
+QString writeFile(const QString& path, const QByteArray& data);
+
+// Saves image to path in the format its suffix names, making the folders on the way; returns path.
+QString writeImage(const QString& path, const QImage& image);
+
 // image as a JPEG whose APP1 segment carries the EXIF orientation tag (6: turn 90 degrees
 // clockwise to show it upright).
 QByteArray jpegWithOrientation(const QImage& image, quint16 orientation);
