@@ -1,12 +1,14 @@
-// The large view's image viewer: fit, zoom, actual pixels, panning, stepping and leaving.
+// The large view's image viewer: fit, zoom, panning, stepping and leaving.
 #include "imageviewer.h"
-#include "photofixtures.h"
 #include "testutils.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
+
+using OrkWidgets::ImageViewer;
+using TestUtils::addRow;
 
 class TestImageViewer : public QObject
 {
@@ -15,33 +17,31 @@ class TestImageViewer : public QObject
 private slots:
     void init();
     void cleanup();
-    void fitsAtFirst_data();
-    void fitsAtFirst();
-    void zoomKeys_data();
-    void zoomKeys();
-    void wheelZoomKeepsPointUnderCursor_data();
-    void wheelZoomKeepsPointUnderCursor();
-    void zoomButtons_data();
-    void zoomButtons();
-    void dragPansWithinBounds_data();
-    void dragPansWithinBounds();
-    void noPanningWhenItFits();
-    void sameSizeKeepsZoomOtherSizeFits();
-    void navigation_data();
-    void navigation();
-    void heading();
-    void leaving_data();
-    void leaving();
+    void zoomAndPan_data();
+    void zoomAndPan();
+    void stepsAndLeaving();
     void paintsThePicture();
 
 private:
-    OrkWidgets::ImageViewer* viewer = nullptr;
+    ImageViewer* viewer = nullptr;
 };
 
-namespace {
+void TestImageViewer::init()
+{
+    viewer = new ImageViewer;
+    viewer->resize(400, 300);
+    viewer->show();
+    QVERIFY(QTest::qWaitForWindowExposed(viewer));
+    // Wide enough that the window's width decides the fit: 400 / 1000 = 0.4.
+    viewer->setImage(TestUtils::halvesPicture(1000, 100));
+}
 
-// Wide enough that its width decides the fit: 400 / 1000 = 0.4.
-const QSize widePicture(1000, 100);
+void TestImageViewer::cleanup()
+{
+    delete viewer;
+}
+
+namespace {
 
 void drag(QWidget* widget, const QPoint& from, const QPoint& to)
 {
@@ -53,255 +53,118 @@ void drag(QWidget* widget, const QPoint& from, const QPoint& to)
 
 } // namespace
 
-void TestImageViewer::init()
-{
-    viewer = new OrkWidgets::ImageViewer;
-    viewer->resize(400, 300);
-    viewer->show();
-    QVERIFY(QTest::qWaitForWindowExposed(viewer));
-    viewer->setImage(PhotoFixtures::halvesPicture(widePicture.width(), widePicture.height()));
-}
-
-void TestImageViewer::cleanup()
-{
-    delete viewer;
-    viewer = nullptr;
-}
-
-void TestImageViewer::fitsAtFirst_data()
+void TestImageViewer::zoomAndPan_data()
 {
     QTest::addColumn<QSize>("picture");
-    QTest::addColumn<double>("zoom");
-    QTest::addColumn<double>("shownWidth");
-
-    QTest::newRow("larger than the window") << QSize(1000, 100) << 0.4 << 400.0;
-    QTest::newRow("smaller than the window") << QSize(200, 10) << 2.0 << 400.0;
-}
-
-void TestImageViewer::fitsAtFirst()
-{
-    QFETCH(QSize, picture);
-    QFETCH(double, zoom);
-    QFETCH(double, shownWidth);
-
-    viewer->setImage(TestUtils::filledImage(picture.width(), picture.height(), 0xff808080));
-    QVERIFY(viewer->isFitting());
-    QCOMPARE(viewer->zoomFactor(), zoom);
-    QCOMPARE(viewer->imageRect().left(), 0.0);
-    QCOMPARE(viewer->imageRect().width(), shownWidth);
-}
-
-void TestImageViewer::zoomKeys_data()
-{
-    QTest::addColumn<QList<int>>("keys");
+    // One character: a key; "up", "down": the wheel at x 300; "drag:dx": a drag from x 200;
+    // "new:WxH": a new picture; otherwise the name of a button.
+    QTest::addColumn<QString>("actions");
     QTest::addColumn<double>("zoom");
     QTest::addColumn<bool>("fitting");
-
-    // Each step is a factor of 1.25 from the fitted 0.4.
-    QTest::newRow("plus") << QList<int>{Qt::Key_Plus} << 0.5 << false;
-    QTest::newRow("equals as plus") << QList<int>{Qt::Key_Equal} << 0.5 << false;
-    QTest::newRow("minus") << QList<int>{Qt::Key_Minus} << 0.32 << false;
-    QTest::newRow("plus twice") << QList<int>{Qt::Key_Plus, Qt::Key_Plus} << 0.625 << false;
-    QTest::newRow("actual pixels") << QList<int>{Qt::Key_1} << 1.0 << false;
-    QTest::newRow("actual then fit") << QList<int>{Qt::Key_1, Qt::Key_0} << 0.4 << true;
-    QTest::newRow("zoomed then fit") << QList<int>{Qt::Key_Plus, Qt::Key_0} << 0.4 << true;
-}
-
-void TestImageViewer::zoomKeys()
-{
-    QFETCH(QList<int>, keys);
-    QFETCH(double, zoom);
-    QFETCH(bool, fitting);
-
-    for (int key : keys)
-        QTest::keyClick(viewer, Qt::Key(key));
-    QCOMPARE(viewer->zoomFactor(), zoom);
-    QCOMPARE(viewer->isFitting(), fitting);
-    QCOMPARE(viewer->imageRect().width(), widePicture.width() * zoom);
-}
-
-void TestImageViewer::wheelZoomKeepsPointUnderCursor_data()
-{
-    QTest::addColumn<int>("delta");
-    QTest::addColumn<double>("zoom");
-
-    // From actual pixels, one step of 1.25 either way.
-    QTest::newRow("wheel up zooms in") << 120 << 1.25;
-    QTest::newRow("wheel down zooms out") << -120 << 0.8;
-}
-
-void TestImageViewer::wheelZoomKeepsPointUnderCursor()
-{
-    QFETCH(int, delta);
-    QFETCH(double, zoom);
-
-    // Actual pixels first, so that the picture is wider than the window either way.
-    QTest::keyClick(viewer, Qt::Key_1);
-    const QRectF before = viewer->imageRect();
-    const QPointF cursor(300, before.center().y());
-    const double pictureX = (cursor.x() - before.left()) / viewer->zoomFactor();
-
-    QWheelEvent wheel(cursor, viewer->mapToGlobal(cursor.toPoint()), QPoint(), QPoint(0, delta),
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(viewer, &wheel);
-
-    QCOMPARE(viewer->zoomFactor(), zoom);
-    const QRectF after = viewer->imageRect();
-    QCOMPARE((cursor.x() - after.left()) / viewer->zoomFactor(), pictureX);
-}
-
-void TestImageViewer::zoomButtons_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<double>("zoom");
-
-    QTest::newRow("zoom in") << "ImageViewerZoomInButton" << 0.5;
-    QTest::newRow("zoom out") << "ImageViewerZoomOutButton" << 0.32;
-    QTest::newRow("actual pixels") << "ImageViewerActualButton" << 1.0;
-    QTest::newRow("fit") << "ImageViewerFitButton" << 0.4;
-}
-
-void TestImageViewer::zoomButtons()
-{
-    QFETCH(QString, button);
-    QFETCH(double, zoom);
-
-    auto* pushButton = viewer->findChild<QPushButton*>(button);
-    QVERIFY(pushButton);
-    QVERIFY(pushButton->isVisible());
-    pushButton->click();
-    QCOMPARE(viewer->zoomFactor(), zoom);
-}
-
-void TestImageViewer::dragPansWithinBounds_data()
-{
-    QTest::addColumn<int>("dx");
     QTest::addColumn<double>("left");
 
-    // At actual pixels the 1000 wide picture is centred on the 400 wide window: left -300.
-    QTest::newRow("a little to the left") << -100 << -400.0;
-    QTest::newRow("a little to the right") << 50 << -250.0;
-    // The window stays covered: left between 400 - 1000 and 0.
-    QTest::newRow("far to the left stops at the right edge") << -1000 << -600.0;
-    QTest::newRow("far to the right stops at the left edge") << 500 << 0.0;
+    // Each step is a factor of 1.25, around the middle of the 400 wide window (x 200) or
+    // around the pointer; narrower than the window the picture is centred, wider it covers it.
+    const QSize wide(1000, 100);
+    addRow("fitted at first", wide, QString(), 0.4, true, 0.0);
+    addRow("small picture enlarged to fit", QSize(200, 10), QString(), 2.0, true, 0.0);
+    addRow("+ key", wide, QString("+"), 0.5, false, -50.0);
+    addRow("- key", wide, QString("-"), 0.32, false, 40.0);
+    addRow("1 key shows actual pixels", wide, QString("1"), 1.0, false, -300.0);
+    addRow("0 key fits again", wide, QString("+ + 0"), 0.4, true, 0.0);
+    addRow("zoom in button", wide, QString("ZoomIn"), 0.5, false, -50.0);
+    addRow("zoom out button", wide, QString("ZoomOut"), 0.32, false, 40.0);
+    addRow("actual pixels button", wide, QString("Actual"), 1.0, false, -300.0);
+    addRow("fit button", wide, QString("1 Fit"), 0.4, true, 0.0);
+    // Picture x 600 stays under the pointer.
+    addRow("wheel up zooms in", wide, QString("1 up"), 1.25, false, -450.0);
+    addRow("wheel down zooms out", wide, QString("1 down"), 0.8, false, -180.0);
+    addRow("fitted picture does not pan", wide, QString("drag:-100"), 0.4, true, 0.0);
+    addRow("drag pans", wide, QString("1 drag:-100"), 1.0, false, -400.0);
+    addRow("far left stops at the right edge", wide, QString("1 drag:-1000"), 1.0, false, -600.0);
+    addRow("far right stops at the left edge", wide, QString("1 drag:500"), 1.0, false, 0.0);
+    addRow("new picture of the same size keeps zoom and place", wide,
+           QString("1 drag:100 new:1000x100"), 1.0, false, -200.0);
+    addRow("new picture of another size is fitted", wide, QString("1 new:800x100"), 0.5, true, 0.0);
 }
 
-void TestImageViewer::dragPansWithinBounds()
+void TestImageViewer::zoomAndPan()
 {
-    QFETCH(int, dx);
+    QFETCH(QSize, picture);
+    QFETCH(QString, actions);
+    QFETCH(double, zoom);
+    QFETCH(bool, fitting);
     QFETCH(double, left);
 
-    QTest::keyClick(viewer, Qt::Key_1);
-    QCOMPARE(viewer->imageRect().left(), -300.0);
-    const double top = viewer->imageRect().top();
-    const QPoint from(200, viewer->height() / 2);
-    drag(viewer, from, from + QPoint(dx, 40));
-    QCOMPARE(viewer->imageRect().left(), left);
-    // Only 100 high: it stays centred vertically.
-    QCOMPARE(viewer->imageRect().top(), top);
+    // The picture is no more than 125 high, so it stays centred vertically.
+    const double middle = viewer->imageRect().center().y();
+    viewer->setImage(TestUtils::filledImage(picture.width(), picture.height(), 0xff808080));
+    for (const QString& action : actions.split(' ', Qt::SkipEmptyParts)) {
+        const bool wheel = action == "up" || action == "down";
+        const QPoint at(wheel ? 300 : 200, int(middle));
+        if (action.size() == 1) {
+            QTest::keyClick(viewer, action.at(0).toLatin1());
+        } else if (wheel) {
+            QWheelEvent event(at, viewer->mapToGlobal(at), QPoint(),
+                              QPoint(0, action == "up" ? 120 : -120), Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(viewer, &event);
+        } else if (action.startsWith("drag:")) {
+            drag(viewer, at, at + QPoint(action.mid(5).toInt(), 40));
+        } else if (action.startsWith("new:")) {
+            const QStringList size = action.mid(4).split('x');
+            viewer->setImage(TestUtils::filledImage(size[0].toInt(), size[1].toInt(), 0xff00ff00));
+        } else {
+            viewer->findChild<QPushButton*>("ImageViewer" + action + "Button")->click();
+        }
+    }
+    QCOMPARE(viewer->zoomFactor(), zoom);
+    QCOMPARE(viewer->isFitting(), fitting);
+    const QSizeF shown = QSizeF(viewer->image().size()) * zoom;
+    QCOMPARE(viewer->imageRect(), QRectF(QPointF(left, middle - shown.height() / 2), shown));
 }
 
-void TestImageViewer::noPanningWhenItFits()
+void TestImageViewer::stepsAndLeaving()
 {
-    const QRectF fitted = viewer->imageRect();
-    drag(viewer, QPoint(200, 150), QPoint(100, 120));
-    QCOMPARE(viewer->imageRect(), fitted);
-}
-
-void TestImageViewer::sameSizeKeepsZoomOtherSizeFits()
-{
-    QTest::keyClick(viewer, Qt::Key_1);
-    drag(viewer, QPoint(200, 150), QPoint(300, 150));
-    const QRectF shown = viewer->imageRect();
-
-    viewer->setImage(TestUtils::filledImage(1000, 100, 0xff00ff00));
-    QCOMPARE(viewer->zoomFactor(), 1.0);
-    QCOMPARE(viewer->imageRect(), shown);
-
-    viewer->setImage(TestUtils::filledImage(800, 100, 0xff00ff00));
-    QVERIFY(viewer->isFitting());
-    QCOMPARE(viewer->zoomFactor(), 0.5);
-}
-
-void TestImageViewer::navigation_data()
-{
-    QTest::addColumn<bool>("hidden");
-
-    QTest::newRow("two photos or more") << false;
-    QTest::newRow("fewer than two photos") << true;
-}
-
-void TestImageViewer::navigation()
-{
-    QFETCH(bool, hidden);
-
-    viewer->setNavigationHidden(hidden);
-    QCOMPARE(viewer->isNavigationHidden(), hidden);
+    QSignalSpy next(viewer, &ImageViewer::next);
+    QSignalSpy previous(viewer, &ImageViewer::previous);
+    QSignalSpy left(viewer, &ImageViewer::systemPreviewOpened);
     auto* nextButton = viewer->findChild<QPushButton*>("NextImageButton");
     auto* previousButton = viewer->findChild<QPushButton*>("PreviousImageButton");
-    QVERIFY(nextButton && previousButton);
-    QCOMPARE(nextButton->isVisible(), !hidden);
-    QCOMPARE(previousButton->isVisible(), !hidden);
-
-    QSignalSpy next(viewer, &OrkWidgets::ImageViewer::next);
-    QSignalSpy previous(viewer, &OrkWidgets::ImageViewer::previous);
     QTest::keyClick(viewer, Qt::Key_Right);
     QTest::keyClick(viewer, Qt::Key_Left);
+    nextButton->click();
+    previousButton->click();
+    // As for a single photo: the step buttons go and the arrow keys do nothing.
+    viewer->setNavigationHidden(true);
+    QVERIFY(!nextButton->isVisible() && !previousButton->isVisible());
+    QTest::keyClick(viewer, Qt::Key_Right);
     QTest::keyClick(viewer, Qt::Key_Left);
-    QCOMPARE(next.count(), hidden ? 0 : 1);
-    QCOMPARE(previous.count(), hidden ? 0 : 2);
-    if (!hidden) {
-        nextButton->click();
-        previousButton->click();
-        QCOMPARE(next.count(), 2);
-        QCOMPARE(previous.count(), 3);
-    }
-}
+    QCOMPARE(next.count(), 2);
+    QCOMPARE(previous.count(), 2);
 
-void TestImageViewer::heading()
-{
-    viewer->setHeading("<H1>2 of 5</H1>");
-    QCOMPARE(viewer->heading(), QString("<H1>2 of 5</H1>"));
-    auto* label = viewer->findChild<QLabel*>("ImageViewerHeading");
-    QVERIFY(label);
-    QCOMPARE(label->text(), QString("<H1>2 of 5</H1>"));
-    // The picture stays below the heading.
-    QVERIFY(viewer->imageRect().top() > label->geometry().bottom());
-}
-
-void TestImageViewer::leaving_data()
-{
-    QTest::addColumn<bool>("byKey");
-
-    QTest::newRow("Escape") << true;
-    QTest::newRow("close button") << false;
-}
-
-void TestImageViewer::leaving()
-{
-    QFETCH(bool, byKey);
-
-    QSignalSpy left(viewer, &OrkWidgets::ImageViewer::systemPreviewOpened);
-    if (byKey)
-        QTest::keyClick(viewer, Qt::Key_Escape);
-    else
-        viewer->findChild<QPushButton*>("ImageViewerCloseButton")->click();
-    QCOMPARE(left.count(), 1);
+    QTest::keyClick(viewer, Qt::Key_Escape);
+    viewer->findChild<QPushButton*>("ImageViewerCloseButton")->click();
+    QCOMPARE(left.count(), 2);
 }
 
 void TestImageViewer::paintsThePicture()
 {
-    const QImage shot = viewer->grab().toImage();
-    const int y = int(viewer->imageRect().center().y());
-    // Red on the left half of the fitted picture, blue on the right.
-    QCOMPARE(shot.pixel(100, y), qRgb(255, 0, 0));
-    QCOMPARE(shot.pixel(300, y), qRgb(0, 0, 255));
+    // The picture makes room for the heading above it.
+    viewer->setHeading("<H1>2 of 5</H1>");
+    const auto* heading = viewer->findChild<QLabel*>("ImageViewerHeading");
+    QTRY_VERIFY(viewer->imageRect().top() > heading->geometry().bottom());
 
+    const int y = int(viewer->imageRect().center().y());
+    // Fitted: red on the left half, blue on the right.
+    const QImage fitted = viewer->grab().toImage();
+    QCOMPARE(fitted.pixel(100, y), qRgb(255, 0, 0));
+    QCOMPARE(fitted.pixel(300, y), qRgb(0, 0, 255));
+
+    // Actual pixels, scrolled to the right end: all blue.
     QTest::keyClick(viewer, Qt::Key_1);
-    drag(viewer, QPoint(200, 150), QPoint(-300, 150));
-    // Scrolled to the right end: all blue.
-    const QImage scrolled = viewer->grab().toImage();
-    QCOMPARE(scrolled.pixel(10, y), qRgb(0, 0, 255));
+    drag(viewer, QPoint(200, y), QPoint(-300, y));
+    QCOMPARE(viewer->grab().toImage().pixel(10, y), qRgb(0, 0, 255));
 }
 
 PELODINE_TEST_MAIN(TestImageViewer)

@@ -1,168 +1,66 @@
-// Reading photos upright and expanding dropped folders.
+// Reading photos upright, expanding dropped folders, and the photo list's thumbnails.
+#include "itemsmodel.h"
 #include "photofiles.h"
-#include "photofixtures.h"
 #include "testutils.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QtTest>
 
+using TestUtils::addRow;
+
 class TestPhotoFiles : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void readTurnsUpright_data();
-    void readTurnsUpright();
-    void readFittedTurnsUpright();
-    void unreadableGivesNullImage_data();
-    void unreadableGivesNullImage();
-    void reducedSize_data();
-    void reducedSize();
-    void readReduced();
-    void readFittedKeepsAspect_data();
-    void readFittedKeepsAspect();
+    void readUpright_data();
+    void readUpright();
     void expandFolders_data();
     void expandFolders();
+    void thumbnail_data();
+    void thumbnail();
+    void newListReadsThumbnailsAnew();
 
 private:
     QTemporaryDir dir;
 };
 
-namespace {
-
-bool isReddish(QRgb pixel)
-{
-    return qRed(pixel) > 200 && qBlue(pixel) < 60;
-}
-
-bool isBluish(QRgb pixel)
-{
-    return qBlue(pixel) > 200 && qRed(pixel) < 60;
-}
-
-} // namespace
-
-void TestPhotoFiles::readTurnsUpright_data()
+void TestPhotoFiles::readUpright_data()
 {
     QTest::addColumn<int>("orientation");
+    QTest::addColumn<QSize>("box"); // empty: read whole
     QTest::addColumn<QSize>("size");
-    QTest::addColumn<QPoint>("redPoint");
-    QTest::addColumn<QPoint>("bluePoint");
+    QTest::addColumn<QPoint>("red");
+    QTest::addColumn<QPoint>("blue");
 
-    // Stored 40 x 20, red left, blue right.
-    QTest::newRow("1 as stored") << 1 << QSize(40, 20) << QPoint(5, 10) << QPoint(35, 10);
-    // Turned clockwise: the left edge goes to the top.
-    QTest::newRow("6 turned clockwise") << 6 << QSize(20, 40) << QPoint(10, 5) << QPoint(10, 35);
-    // Turned anticlockwise: the left edge goes to the bottom.
-    QTest::newRow("8 turned anticlockwise")
-        << 8 << QSize(20, 40) << QPoint(10, 35) << QPoint(10, 5);
-    // Upside down: the left edge goes to the right.
-    QTest::newRow("3 upside down") << 3 << QSize(40, 20) << QPoint(35, 10) << QPoint(5, 10);
+    // Stored 80 x 40, red left, blue right.
+    addRow("1 as stored", 1, QSize(), QSize(80, 40), QPoint(10, 20), QPoint(70, 20));
+    addRow("3 upside down", 3, QSize(), QSize(80, 40), QPoint(70, 20), QPoint(10, 20));
+    addRow("6 turned clockwise", 6, QSize(), QSize(40, 80), QPoint(20, 10), QPoint(20, 70));
+    addRow("8 turned anticlockwise", 8, QSize(), QSize(40, 80), QPoint(20, 70), QPoint(20, 10));
+    // Upright 40 x 80 into 40 x 20: the box applies to the upright photo, not the stored one.
+    addRow("6 fitted into a wide box", 6, QSize(40, 20), QSize(10, 20), QPoint(5, 3),
+           QPoint(5, 17));
+    addRow("1 enlarged to fit", 1, QSize(160, 160), QSize(160, 80), QPoint(20, 40),
+           QPoint(140, 40));
 }
 
-void TestPhotoFiles::readTurnsUpright()
+void TestPhotoFiles::readUpright()
 {
     QFETCH(int, orientation);
+    QFETCH(QSize, box);
     QFETCH(QSize, size);
-    QFETCH(QPoint, redPoint);
-    QFETCH(QPoint, bluePoint);
+    QFETCH(QPoint, red);
+    QFETCH(QPoint, blue);
 
-    const QString path = PhotoFixtures::writeFile(
+    const QString path = TestUtils::writeFile(
         dir.filePath(QString("turned%1.jpg").arg(orientation)),
-        TestUtils::jpegWithOrientation(PhotoFixtures::halvesPicture(40, 20), orientation));
-    const QImage photo = PhotoFiles::read(path);
+        TestUtils::jpegWithOrientation(TestUtils::halvesPicture(80, 40), orientation));
+    const QImage photo = box.isEmpty() ? PhotoFiles::read(path) : PhotoFiles::readFitted(path, box);
     QCOMPARE(photo.size(), size);
-    QVERIFY(isReddish(photo.pixel(redPoint)));
-    QVERIFY(isBluish(photo.pixel(bluePoint)));
-}
-
-void TestPhotoFiles::readFittedTurnsUpright()
-{
-    // Stored 400 x 200 and turned clockwise: upright 200 x 400, fitted into 100 x 100 it is
-    // 50 x 100 with red on top.
-    const QString path = PhotoFixtures::writeFile(
-        dir.filePath("turnedlarge.jpg"),
-        TestUtils::jpegWithOrientation(PhotoFixtures::halvesPicture(400, 200), 6));
-    const QImage photo = PhotoFiles::readFitted(path, QSize(100, 100));
-    QCOMPARE(photo.size(), QSize(50, 100));
-    QVERIFY(isReddish(photo.pixel(25, 10)));
-    QVERIFY(isBluish(photo.pixel(25, 90)));
-}
-
-void TestPhotoFiles::unreadableGivesNullImage_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QByteArray>("contents");
-
-    QTest::newRow("text file") << "notes.txt" << QByteArray("no picture here");
-    QTest::newRow("broken png") << "broken.png" << QByteArray("\x89PNG\r\n\x1a\n garbage");
-    QTest::newRow("missing file") << "missing.jpg" << QByteArray();
-}
-
-void TestPhotoFiles::unreadableGivesNullImage()
-{
-    QFETCH(QString, path);
-    QFETCH(QByteArray, contents);
-
-    const QString full = dir.filePath(path);
-    if (!contents.isEmpty())
-        PhotoFixtures::writeFile(full, contents);
-    QVERIFY(PhotoFiles::read(full).isNull());
-    QVERIFY(PhotoFiles::read(full, 20).isNull());
-    QVERIFY(PhotoFiles::readFitted(full, QSize(720, 720)).isNull());
-}
-
-void TestPhotoFiles::reducedSize_data()
-{
-    QTest::addColumn<QSize>("full");
-    QTest::addColumn<int>("divisor");
-    QTest::addColumn<QSize>("reduced");
-
-    QTest::newRow("4000x3000 by 20") << QSize(4000, 3000) << 20 << QSize(200, 150);
-    // 4010 / 20 = 200.5 rounds up, 2990 / 20 = 149.5 rounds up.
-    QTest::newRow("halves round up") << QSize(4010, 2990) << 20 << QSize(201, 150);
-    // 4009 / 20 = 200.45, 3001 / 20 = 150.05.
-    QTest::newRow("below half rounds down") << QSize(4009, 3001) << 20 << QSize(200, 150);
-    // 9 / 20 = 0.45 would round to nothing.
-    QTest::newRow("tiny photo keeps a pixel") << QSize(9, 30) << 20 << QSize(1, 2);
-}
-
-void TestPhotoFiles::reducedSize()
-{
-    QFETCH(QSize, full);
-    QFETCH(int, divisor);
-    QFETCH(QSize, reduced);
-
-    QCOMPARE(PhotoFiles::reducedSize(full, divisor), reduced);
-}
-
-void TestPhotoFiles::readReduced()
-{
-    // A twentieth of 4000 x 3000.
-    const QString path = PhotoFixtures::writePng(dir.filePath("big.png"), 4000, 3000);
-    QCOMPARE(PhotoFiles::read(path, 20).size(), QSize(200, 150));
-}
-
-void TestPhotoFiles::readFittedKeepsAspect_data()
-{
-    QTest::addColumn<QSize>("photo");
-    QTest::addColumn<QSize>("fitted");
-
-    QTest::newRow("landscape 4000x3000") << QSize(4000, 3000) << QSize(720, 540);
-    QTest::newRow("portrait 300x2000") << QSize(300, 2000) << QSize(108, 720);
-    QTest::newRow("small photo enlarged") << QSize(100, 50) << QSize(720, 360);
-}
-
-void TestPhotoFiles::readFittedKeepsAspect()
-{
-    QFETCH(QSize, photo);
-    QFETCH(QSize, fitted);
-
-    const QString path = PhotoFixtures::writePng(
-        dir.filePath(QString("fit%1x%2.png").arg(photo.width()).arg(photo.height())), photo.width(),
-        photo.height());
-    QCOMPARE(PhotoFiles::readFitted(path, QSize(720, 720)).size(), fitted);
+    QVERIFY(qRed(photo.pixel(red)) > 200 && qBlue(photo.pixel(red)) < 60);
+    QVERIFY(qBlue(photo.pixel(blue)) > 200 && qRed(photo.pixel(blue)) < 60);
 }
 
 void TestPhotoFiles::expandFolders_data()
@@ -170,16 +68,13 @@ void TestPhotoFiles::expandFolders_data()
     QTest::addColumn<QStringList>("dropped");
     QTest::addColumn<QStringList>("expected");
 
-    // The folder "album" holds b.png, a.JPG, notes.txt, Sub/z.png, Sub/y.png and d.png.
-    QTest::newRow("folder alone") << QStringList{"album"}
-                                  << QStringList{"album/a.JPG", "album/b.png", "album/d.png",
-                                                 "album/Sub/y.png", "album/Sub/z.png"};
-    QTest::newRow("folder between files")
-        << QStringList{"first.png", "album/Sub", "last.txt"}
-        << QStringList{"first.png", "album/Sub/y.png", "album/Sub/z.png", "last.txt"};
-    QTest::newRow("files kept in drop order") << QStringList{"last.txt", "first.png", "first.png"}
-                                              << QStringList{"last.txt", "first.png", "first.png"};
-    QTest::newRow("empty folder") << QStringList{"empty"} << QStringList{};
+    // "album" holds b.png, a.JPG, notes.txt, d.png and Sub with z.png and y.png.
+    addRow("folder alone", QStringList{"album"},
+           QStringList{"album/a.JPG", "album/b.png", "album/d.png", "album/Sub/y.png",
+                       "album/Sub/z.png"});
+    addRow("folder between files", QStringList{"first.png", "album/Sub", "last.txt"},
+           QStringList{"first.png", "album/Sub/y.png", "album/Sub/z.png", "last.txt"});
+    addRow("empty folder", QStringList{"empty"}, QStringList{});
 }
 
 void TestPhotoFiles::expandFolders()
@@ -188,21 +83,77 @@ void TestPhotoFiles::expandFolders()
     QFETCH(QStringList, expected);
 
     QTemporaryDir root;
-    for (const char* name : {"album/b.png", "album/a.JPG", "album/d.png", "album/Sub/z.png",
-                             "album/Sub/y.png", "first.png"})
-        PhotoFixtures::writePng(root.filePath(name), 4, 4);
-    PhotoFixtures::writeFile(root.filePath("album/notes.txt"), "text");
-    PhotoFixtures::writeFile(root.filePath("last.txt"), "text");
+    for (const char* name :
+         {"album/b.png", "album/a.JPG", "album/d.png", "album/Sub/z.png", "album/Sub/y.png"})
+        TestUtils::writeImage(root.filePath(name), TestUtils::filledImage(4, 4, 0xff000000));
+    TestUtils::writeFile(root.filePath("first.png"), "any contents");
+    TestUtils::writeFile(root.filePath("album/notes.txt"), "text");
+    TestUtils::writeFile(root.filePath("last.txt"), "text");
     QDir(root.path()).mkpath("empty");
 
     QList<QUrl> urls;
     for (const QString& name : dropped)
         urls << QUrl::fromLocalFile(root.filePath(name));
     QStringList names;
-    const QList<QUrl> expanded = PhotoFiles::expandFolders(urls);
-    for (const QUrl& url : expanded)
+    for (const QUrl& url : PhotoFiles::expandFolders(urls))
         names << QDir(root.path()).relativeFilePath(url.toLocalFile());
     QCOMPARE(names, expected);
+}
+
+void TestPhotoFiles::thumbnail_data()
+{
+    QTest::addColumn<QSize>("photo"); // empty: not a photo
+    QTest::addColumn<QRect>("opaque");
+
+    // Read at a twentieth, then fitted into 48 x 48 and centred on transparency.
+    addRow("landscape 800x600", QSize(800, 600), QRect(0, 6, 48, 36));
+    addRow("portrait 600x1200", QSize(600, 1200), QRect(12, 0, 24, 48));
+    // Read at 1 x 2, as a twentieth would leave no pixel across.
+    addRow("tiny 9x30", QSize(9, 30), QRect(12, 0, 24, 48));
+    addRow("unreadable", QSize(), QRect());
+}
+
+void TestPhotoFiles::thumbnail()
+{
+    QFETCH(QSize, photo);
+    QFETCH(QRect, opaque);
+
+    const QString path =
+        photo.isEmpty()
+            ? TestUtils::writeFile(dir.filePath("broken.jpg"), "not a photo")
+            : TestUtils::writeImage(
+                  dir.filePath(QString("t%1x%2.png").arg(photo.width()).arg(photo.height())),
+                  TestUtils::filledImage(photo.width(), photo.height(), 0xff208040));
+    ItemsModel model;
+    model.setPhotos({QUrl::fromLocalFile(path)});
+    const QImage thumbnail = model.data(model.index(0), Qt::DecorationRole).value<QImage>();
+    QCOMPARE(thumbnail.size(), opaque.isNull() ? QSize(0, 0) : QSize(48, 48));
+    QRect covered;
+    for (int y = 0; y < thumbnail.height(); ++y) {
+        for (int x = 0; x < thumbnail.width(); ++x) {
+            const int alpha = qAlpha(thumbnail.pixel(x, y));
+            QVERIFY2(alpha == 0 || alpha == 255, qPrintable(QString("(%1,%2)").arg(x).arg(y)));
+            covered |= alpha ? QRect(x, y, 1, 1) : QRect();
+        }
+    }
+    QCOMPARE(covered, opaque);
+}
+
+void TestPhotoFiles::newListReadsThumbnailsAnew()
+{
+    const QString path = TestUtils::writeImage(dir.filePath("changing.png"),
+                                               TestUtils::filledImage(96, 96, 0xffff0000));
+    const auto centre = [](const ItemsModel& model) {
+        return model.data(model.index(0), Qt::DecorationRole).value<QImage>().pixel(24, 24);
+    };
+    ItemsModel model;
+    model.setPhotos({QUrl::fromLocalFile(path)});
+    QCOMPARE(centre(model), 0xffff0000);
+    // Kept while the list stays.
+    TestUtils::writeImage(path, TestUtils::filledImage(96, 96, 0xff00ff00));
+    QCOMPARE(centre(model), 0xffff0000);
+    model.setPhotos({QUrl::fromLocalFile(path)});
+    QCOMPARE(centre(model), 0xff00ff00);
 }
 
 PELODINE_TEST_MAIN(TestPhotoFiles)
