@@ -1,9 +1,8 @@
-// Reading photos upright, expanding dropped folders, and the photo list's thumbnails.
+// Reading photos upright, and the photo list's thumbnails.
 #include "itemsmodel.h"
 #include "photofiles.h"
 #include "testutils.h"
 
-#include <QDir>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -16,8 +15,6 @@ class TestPhotoFiles : public QObject
 private slots:
     void readUpright_data();
     void readUpright();
-    void expandFolders_data();
-    void expandFolders();
     void thumbnail_data();
     void thumbnail();
     void newListReadsThumbnailsAnew();
@@ -42,8 +39,6 @@ void TestPhotoFiles::readUpright_data()
     // Upright 40 x 80 into 40 x 20: the box applies to the upright photo, not the stored one.
     addRow("6 fitted into a wide box", 6, QSize(40, 20), QSize(10, 20), QPoint(5, 3),
            QPoint(5, 17));
-    addRow("1 enlarged to fit", 1, QSize(160, 160), QSize(160, 80), QPoint(20, 40),
-           QPoint(140, 40));
 }
 
 void TestPhotoFiles::readUpright()
@@ -61,43 +56,6 @@ void TestPhotoFiles::readUpright()
     QCOMPARE(photo.size(), size);
     QVERIFY(qRed(photo.pixel(red)) > 200 && qBlue(photo.pixel(red)) < 60);
     QVERIFY(qBlue(photo.pixel(blue)) > 200 && qRed(photo.pixel(blue)) < 60);
-}
-
-void TestPhotoFiles::expandFolders_data()
-{
-    QTest::addColumn<QStringList>("dropped");
-    QTest::addColumn<QStringList>("expected");
-
-    // "album" holds b.png, a.JPG, notes.txt, d.png and Sub with z.png and y.png.
-    addRow("folder alone", QStringList{"album"},
-           QStringList{"album/a.JPG", "album/b.png", "album/d.png", "album/Sub/y.png",
-                       "album/Sub/z.png"});
-    addRow("folder between files", QStringList{"first.png", "album/Sub", "last.txt"},
-           QStringList{"first.png", "album/Sub/y.png", "album/Sub/z.png", "last.txt"});
-    addRow("empty folder", QStringList{"empty"}, QStringList{});
-}
-
-void TestPhotoFiles::expandFolders()
-{
-    QFETCH(QStringList, dropped);
-    QFETCH(QStringList, expected);
-
-    QTemporaryDir root;
-    for (const char* name :
-         {"album/b.png", "album/a.JPG", "album/d.png", "album/Sub/z.png", "album/Sub/y.png"})
-        TestUtils::writeImage(root.filePath(name), TestUtils::filledImage(4, 4, 0xff000000));
-    TestUtils::writeFile(root.filePath("first.png"), "any contents");
-    TestUtils::writeFile(root.filePath("album/notes.txt"), "text");
-    TestUtils::writeFile(root.filePath("last.txt"), "text");
-    QDir(root.path()).mkpath("empty");
-
-    QList<QUrl> urls;
-    for (const QString& name : dropped)
-        urls << QUrl::fromLocalFile(root.filePath(name));
-    QStringList names;
-    for (const QUrl& url : PhotoFiles::expandFolders(urls))
-        names << QDir(root.path()).relativeFilePath(url.toLocalFile());
-    QCOMPARE(names, expected);
 }
 
 void TestPhotoFiles::thumbnail_data()
