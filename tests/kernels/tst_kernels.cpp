@@ -1,0 +1,520 @@
+// The image kernels: each against its rule written out plainly over random images, and small
+// cases worked out by hand, the deliberate oddities of the rules included.
+#include "geometric.h"
+#include "neighbourhood.h"
+#include "point.h"
+#include "testutils.h"
+#include "watermark.h"
+
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <functional>
+#include <random>
+#include <tuple>
+
+using namespace OrkGraphX;
+using TestUtils::addRow;
+using Kernel = std::function<QImage(QImage&)>;
+Q_DECLARE_METATYPE(Kernel)
+Q_DECLARE_METATYPE(WMRParams)
+
+// A kernel call on the image i, so that a table row names its call in one line.
+#define KERNEL(...) Kernel([](QImage& i) { return __VA_ARGS__; })
+
+namespace {
+
+// Counts Qt's messages while it lives and keeps them out of the output.
+struct MessageCount
+{
+    static inline int count = 0;
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString&) { ++count; });
+    ~MessageCount() { qInstallMessageHandler(previous); }
+};
+
+QRgb word(const QImage& image, int x, int y)
+{
+    return reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
+}
+
+// An ARGB32 image of words written row by row ("1 2/3 4", 0x.. in hex, w*n for n times w) times
+// unit; O is the 12345 that pixel() answers outside the image, R opaque red.
+QImage fromWords(const QString& text, QRgb unit = 1)
+{
+    QVector<QVector<QRgb>> rows;
+    for (const QString& row : text.split('/', Qt::SkipEmptyParts)) {
+        rows.append(QVector<QRgb>());
+        for (const QString& item : row.split(' ')) {
+            const QString w = item.section('*', 0, 0);
+            const QRgb value = w == "O"   ? 12345
+                               : w == "R" ? 0xffff0000
+                                          : w.toUInt(nullptr, 0) * unit;
+            rows.last() +=
+                QVector<QRgb>(item.contains('*') ? item.section('*', 1).toInt() : 1, value);
+        }
+    }
+    QImage image(rows.value(0).size(), rows.size(), QImage::Format_ARGB32);
+    for (int y = 0; y < rows.size(); ++y)
+        for (int x = 0; x < rows[y].size(); ++x)
+            image.setPixel(x, y, rows[y][x]);
+    return image;
+}
+
+} // namespace
+
+// The rules as stated, with the kernels' signatures.
+namespace Rules {
+
+// The turns read one place too far: right 90 takes source(y, h − x), 180 source(w − x, h − y)
+// and left 90 source(w − y, x), through pixel() and setPixel(), so RGB32 words become opaque.
+QImage rotateImage(const QImage& s, int angle)
+{
+    const int w = s.width(), h = s.height();
+    QImage result(angle == 180 ? s.size() : s.size().transposed(), s.format());
+    for (int y = 0; y < result.height(); ++y)
+        for (int x = 0; x < result.width(); ++x)
+            result.setPixel(x, y,
+                            s.pixel(angle == 90    ? QPoint(y, h - x)
+                                    : angle == 180 ? QPoint(w - x, h - y)
+                                                   : QPoint(w - y, x)));
+    return result;
+}
+
+QImage mirrorImage(const QImage& s, bool horizontal, bool vertical)
+{
+    return s.mirrored(horizontal, vertical);
+}
+
+QImage invertImage(QImage s)
+{
+    s.invertPixels();
+    return s;
+}
+
+// Four passes over the region (down, right, up, left), one channel and one pixel at a time:
+// z += (16 · byte − z) · a / 16 with a weight a in sixteenths.
+QImage blurImage(const QImage& image, int radius, QRect region, bool alphaOnly)
+{
+    static const int sixteenths[] = {14, 10, 8, 6, 5, 5, 4, 3, 3, 3, 3, 2, 2, 2, 2, 2, 2};
+    QImage result = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const int a = radius <= 0 ? 16 : radius <= 17 ? sixteenths[radius - 1] : 1;
+    const QRect r = region.normalized() & result.rect();
+    const auto line = [&](int c, int x, int y, int dx, int dy, int steps) {
+        int z = result.scanLine(y)[4 * x + c] * 16;
+        for (int i = 1; i <= steps; ++i) {
+            uchar& byte = result.scanLine(y + i * dy)[4 * (x + i * dx) + c];
+            z += (byte * 16 - z) * a / 16;
+            byte = uchar(z >> 4);
+        }
+    };
+    for (int c = alphaOnly ? 3 : 0; c < 4 && !r.isEmpty(); ++c) {
+        for (int x = r.left(); x <= r.right(); ++x)
+            line(c, x, r.top(), 0, 1, r.height() - 1);
+        for (int y = r.top(); y <= r.bottom(); ++y)
+            line(c, r.left(), y, 1, 0, r.width() - 1);
+        for (int x = r.left(); x <= r.right(); ++x)
+            line(c, x, r.bottom(), 0, -1, r.height() - 1);
+        for (int y = r.top(); y <= r.bottom(); ++y)
+            line(c, r.right(), y, -1, 0, r.width() - 1);
+    }
+    return result;
+}
+
+// A radial gradient painted on an S x S square (S the longer side) and drawn stretched over the
+// image: transparent colour + 200 at the centre, + 40 halfway, the colour itself at the radius.
+QImage vignetteImage(QImage image, int radius, int opacity, const QColor& colour)
+{
+    const int s = std::max(image.width(), image.height());
+    const auto lifted = [&colour](int amount) {
+        return QColor(std::min(colour.red() + amount, 255), std::min(colour.green() + amount, 255),
+                      std::min(colour.blue() + amount, 255), 0);
+    };
+    QRadialGradient gradient(QPointF(s / 2, s / 2), radius * s / 100, QPointF(s / 2, s / 2));
+    gradient.setStops({{0.0, lifted(200)}, {0.5, lifted(40)}, {1.0, QColor(colour.rgb())}});
+    QImage square(s, s, image.format());
+    square.fill(QColor(255, 255, 255, 0));
+    QPainter painter(&square);
+    painter.setOpacity(opacity / 100.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(gradient);
+    painter.drawRect(square.rect());
+    painter.end();
+    QPainter(&image).drawImage(image.rect(), square);
+    return image;
+}
+
+} // namespace Rules
+
+namespace {
+
+// A name, a size and two calls of the same name: the kernel's and the rule's.
+using Case = std::tuple<const char*, QSize, Kernel, Kernel>;
+#define RULE(n, s, ...) Case(n, s, KERNEL(OrkGraphX::__VA_ARGS__), KERNEL(Rules::__VA_ARGS__))
+
+// "Watermark" in DejaVu Sans, white on a red box, or a red 100 x 50 logo.
+WMRParams watermark(int mode, int size, int position, int xOffset = 0, int yOffset = 0)
+{
+    WMRParams params;
+    params.Mode = mode;
+    params.Text = "Watermark";
+    params.Font = QFont("DejaVu Sans");
+    params.Size = size;
+    params.Position = position;
+    params.XOffset = xOffset;
+    params.YOffset = yOffset;
+    params.Color = Qt::white;
+    params.Background = Qt::red;
+    params.BackgroundEnabled = true;
+    params.ImageData = TestUtils::filledImage(100, 50, 0xffff0000);
+    return params;
+}
+
+QRect redBounds(const QImage& image)
+{
+    QRect bounds;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (word(image, x, y) == 0xffff0000)
+                bounds |= QRect(x, y, 1, 1);
+    return bounds;
+}
+
+} // namespace
+
+class TestKernels : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY2(QFontInfo(QFont("DejaVu Sans")).family() == "DejaVu Sans",
+                 "DejaVu Sans is missing: run scripts/install-deps.sh (fonts-dejavu-core)");
+    }
+
+    void followsTheRule_data()
+    {
+        QTest::addColumn<Kernel>("kernel");
+        QTest::addColumn<Kernel>("rule");
+        QTest::addColumn<QImage>("image");
+        const Kernel same = KERNEL(i);
+        const Case cases[] = {
+            // 1500 x 1400 is large enough for the result to live in huge-page memory.
+            RULE("right 90", QSize(131, 66), rotateImage(i, 90)),
+            RULE("right 90 one pixel", QSize(1, 1), rotateImage(i, 90)),
+            RULE("left 90", QSize(70, 130), rotateImage(i, 270)),
+            RULE("left 90 one column", QSize(1, 4), rotateImage(i, 270)),
+            RULE("180", QSize(1500, 1400), rotateImage(i, 180)),
+            RULE("180 small", QSize(7, 5), rotateImage(i, 180)),
+            RULE("mirror horizontal", QSize(37, 11), mirrorImage(i, 1, 0)),
+            RULE("mirror both", QSize(37, 11), mirrorImage(i, 1, 1)),
+            RULE("invert", QSize(97, 61), invertImage(i)),
+            Case("neutral settings", {97, 61},
+                 KERNEL(adjustBrightnessContrastSaturation(i, 0, 0, 1)), same),
+            Case("saturation 1", {97, 61}, KERNEL(adjustSaturation(i, 1)), same),
+            RULE("blur 1", QSize(64, 63), blurImage(i, 1, {0, 0, 64, 63}, false)),
+            RULE("blur 5 alpha only", QSize(9, 9), blurImage(i, 5, {0, 0, 9, 9}, true)),
+            RULE("blur 30 weighs 1/16", QSize(33, 17), blurImage(i, 30, {0, 0, 33, 17}, false)),
+            RULE("blur -5 keeps the pixels", QSize(7, 3), blurImage(i, -5, {0, 0, 7, 3}, false)),
+            RULE("blur inner region", QSize(40, 30), blurImage(i, 3, {5, 4, 20, 11}, false)),
+            RULE("blur past the edges", QSize(40, 30), blurImage(i, 7, {-10, 20, 60, 50}, false)),
+            RULE("blur region backwards", QSize(40, 30),
+                 blurImage(i, 2, {30, 25, -26, -22}, false)),
+            RULE("blur region outside", QSize(40, 30), blurImage(i, 4, {50, 40, 10, 10}, false)),
+            RULE("vignette landscape", QSize(120, 80), vignetteImage(i, 65, 80, Qt::black)),
+            RULE("vignette portrait", QSize(80, 120), vignetteImage(i, 50, 100, Qt::darkRed)),
+            RULE("vignette radius 0", QSize(77, 13), vignetteImage(i, 0, 60, Qt::black)),
+            // Wider than Qt's raster chunk of 2048 and stretched beyond 100 : 1.
+            RULE("vignette 2600 wide", QSize(2600, 20), vignetteImage(i, 60, 100, Qt::darkGreen)),
+            RULE("vignette 2600 high", QSize(20, 2600), vignetteImage(i, 60, 55, Qt::darkBlue)),
+            // Faint values, where premultiplying shows which of Qt's paths was followed.
+            RULE("vignette faint", QSize(1528, 358), vignetteImage(i, 100, 32, QColor(0x413180)))};
+        const std::pair<QImage::Format, const char*> formats[] = {
+            {QImage::Format_RGB32, "RGB32"},
+            {QImage::Format_ARGB32, "ARGB32"},
+            {QImage::Format_ARGB32_Premultiplied, "premultiplied"}};
+        std::mt19937 random(1);
+        for (const auto& [name, size, kernel, rule] : cases)
+            for (const auto& [format, formatName] : formats) {
+                // Random words, every fifth pixel translucent.
+                QImage image(size, QImage::Format_ARGB32);
+                for (int y = 0; y < image.height(); ++y)
+                    for (int x = 0; x < image.width(); ++x)
+                        image.setPixel(x, y, QRgb(random()) | ((x + y) % 5 ? 0xff000000 : 0));
+                image = image.convertToFormat(format);
+                image.setDotsPerMeterX(5000);
+                // A stray alpha byte in RGB32 words, which pixel() and setPixel() make opaque.
+                for (int y = 0; format == QImage::Format_RGB32 && y < image.height(); y += 2)
+                    reinterpret_cast<QRgb*>(image.scanLine(y))[0] &= 0x12ffffff;
+                QTest::addRow("%s %s", name, formatName) << kernel << rule << image;
+            }
+    }
+
+    void followsTheRule()
+    {
+        QFETCH(Kernel, kernel);
+        QFETCH(Kernel, rule);
+        QFETCH(QImage, image);
+        const MessageCount messages;
+        const QImage expected = rule(image);
+        const int before = MessageCount::count;
+        const QImage result = kernel(image);
+        QCOMPARE(MessageCount::count, before); // no warning per pixel read outside the image
+        QCOMPARE(result.format(), expected.format());
+        QCOMPARE(result.dotsPerMeterX(), expected.dotsPerMeterX());
+        QCOMPARE_IMAGES(result, expected);
+        QImage empty;
+        QVERIFY(kernel(empty).isNull());
+    }
+
+    void byHand_data()
+    {
+        QTest::addColumn<Kernel>("kernel");
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("expected");
+        // The turns read one place too far (O).
+        const QString g = "1 2 3 4/5 6 7 8/9 10 11 12";
+        addRow("right 90", KERNEL(rotateRight90(i)), g, "O 9 5/O 10 6/O 11 7/O 12 8");
+        addRow("-270 is right 90", KERNEL(rotateImage(i, -270)), g, "O 9 5/O 10 6/O 11 7/O 12 8");
+        addRow("-180 is 180", KERNEL(rotateImage(i, -180)), g, "O*4/O 12 11 10/O 8 7 6");
+        addRow("-90 is left 90", KERNEL(rotateImage(i, -90)), g, "O O O/4 8 12/3 7 11/2 6 10");
+        addRow("45 leaves the image", KERNEL(rotateImage(i, 45)), g, g);
+        addRow("mirror horizontal", KERNEL(mirrorImage(i, 1, 0)), g, "4 3 2 1/8 7 6 5/12 11 10 9");
+        addRow("mirror vertical", KERNEL(mirrorImage(i, 0, 1)), g, "9 10 11 12/5 6 7 8/1 2 3 4");
+        // Margins in percent, truncated toward zero: 25 % of 4 is 1, 34 % of 3 is 1, -34 % is -1.
+        addRow("crop of nothing", KERNEL(cropImage(i, 0, 0, 0, 0)), g, g);
+        addRow("crop 25 25 34 0", KERNEL(cropImage(i, 25, 25, 34, 0)), g, "6 7/10 11");
+        addRow("crop out left and top", KERNEL(cropImage(i, -25, 0, -34, 0)), g,
+               "O*5/O 1 2 3 4/O 5 6 7 8/O 9 10 11 12");
+        addRow("crop out right and bottom", KERNEL(cropImage(i, 0, -25, 0, -34)), g,
+               "1 2 3 4 O/5 6 7 8 O/9 10 11 12 O/O*5");
+        addRow("crop 100 left leaves nothing", KERNEL(cropImage(i, 100, 0, 0, 0)), g, "");
+        // The border is a percentage of the width on all four sides (25 % of the height is 0).
+        addRow("frame 25", KERNEL(drawFrame(i, 25, Qt::red)), g,
+               "R*6/R 1 2 3 4 R/R 5 6 7 8 R/R 9 10 11 12 R/R*6");
+        addRow("frame -25 cuts in", KERNEL(drawFrame(i, -25, Qt::red)), g, "6 7");
+
+        // Brightness P = sqrt(0.299 R² + 0.587 G² + 0.114 B²), contrast factor k = (c + 127) / 127;
+        // saturation around P first, then brightness, then contrast pivoting around 0.
+        static const auto bcs = adjustBrightnessContrastSaturation;
+        addRow("saturation 0: red is P = 139", KERNEL(bcs(i, 0, 0, 0)), "0xffff0000", "0xff8b8b8b");
+        // k = 137 / 127: 120 k = 129.4, 70 k = 75.5, 20 k = 21.6.
+        addRow("brightness 20 contrast 10", KERNEL(bcs(i, 20, 10, 1)), "0x80643200", "0x80814b15");
+        addRow("brightness and contrast", KERNEL(adjustBrightnessContrast(i, 20, 10)), "0x80643200",
+               "0x80814b15");
+        // k = 2 with the pivot at 0, not at mid-grey (which would give 72 for 100).
+        addRow("contrast 127 doubles", KERNEL(bcs(i, 0, 127, 1)), "0xff641ec8", "0xffc83cff");
+        addRow("brightness -50 clamps", KERNEL(bcs(i, -50, 0, 1)), "0xff1e3cff", "0xff000acd");
+        // P = 134.59: 2 (c − P) + P = 265.4, 65.4, −34.6.
+        addRow("saturation 2", KERNEL(adjustSaturation(i, 2)), "0xffc86432", "0xffff4100");
+        // P = 5.47: (5.47 + 10) · 2 = 30.9; contrast before brightness would give 20.
+        addRow("order of the three", KERNEL(bcs(i, 10, 127, 0)), "0xff0a0000", "0xff1e1e1e");
+        addRow("grayscale: plain average", KERNEL(grayscaleImage(i)), "0x8000ff01", "0x80555555");
+        addRow("swap 0 red and blue", KERNEL(swapChannels(i, 0)), "0x80112233", "0x80332211");
+        addRow("swap 1 red and green", KERNEL(swapChannels(i, 1)), "0x80112233", "0x80221133");
+        addRow("swap 2 green and blue", KERNEL(swapChannels(i, 2)), "0x80112233", "0x80113322");
+        addRow("swap 3 is unknown", KERNEL(swapChannels(i, 3)), "0x80112233", "0x80112233");
+        addRow("binarize: equal is white", KERNEL(binarizeImage(i, 0x20)), "0x80102030",
+               "0x8000ffff");
+        addRow("invert", KERNEL(invertImage(i)), "0x80102030", "0x80efdfcf");
+        // Hues less than 10 degrees from the source's move to (h − h1 + h2 + 359) mod 359 (hue 9
+        // to 249, whose red is 38), saturation and value scale by target / source (64 / 128 · 255
+        // = 127, 255 / 128 · 255 capped); the result is premultiplied.
+        static const auto colorize = colorizeImage;
+        const QColor half = QColor::fromHsv(0, 128, 255);
+        addRow("colorize: far hue stays", KERNEL(colorize(i, Qt::red, Qt::blue)), "0x800000ff",
+               "0x80000080");
+        addRow("colorize: hue 10 stays", KERNEL(colorize(i, Qt::red, Qt::blue)), "0xffff2b00",
+               "0xffff2b00");
+        addRow("colorize: hue 9 moves", KERNEL(colorize(i, Qt::red, Qt::blue)), "0xffff2a00",
+               "0xff2600ff");
+        addRow("colorize: modulus 359", KERNEL(colorize(i, Qt::green, Qt::blue)), "0xff00ff00",
+               "0xff0000ff");
+        addRow("colorize: saturation scaled",
+               KERNEL(colorize(i, QColor::fromHsv(0, 128, 255), QColor::fromHsv(0, 64, 255))),
+               "0xffff0000", "0xffff8080");
+        addRow("colorize: saturation capped",
+               KERNEL(colorize(i, QColor::fromHsv(0, 128, 255), Qt::red)), "0xffff0000",
+               "0xffff0000");
+        // Black has hue -1 like grey, and its saturation and value of 0 count as ratio 0.
+        addRow("colorize: black source", KERNEL(colorize(i, Qt::black, Qt::red)), "0xff808080",
+               "0xff000000");
+
+        // The levels come from red alone: red 50 .. 150 maps 50 + k to trunc(k · 256 / 100) and
+        // from 150 on to 255, in every channel; the result is opaque.
+        const QString spread = "0x80320a4b 0xff644bc8 0xff96c80a";
+        addRow("histogram stretches red's range", KERNEL(optimizeHistogram(i, 0, 0)), spread,
+               "0xff000040 0xff8040ff 0xffffff00");
+        // Every pixel clipped from the top: 0 below the lowest red, 255 from there on.
+        addRow("histogram high clip 200", KERNEL(optimizeHistogram(i, 200, 0)), spread,
+               "0xffff00ff 0xffffffff 0xffffff00");
+        addRow("histogram ignores green", KERNEL(optimizeHistogram(i, 0, 0)),
+               "0xff800000 0xff80ff7f", "0xffff0000 0xffffff00");
+        // Clips are halved: 19 is 9.5 % of 20 pixels, 1, and keeps the ends; 100 becomes
+        // trunc(100 · 256 / 255). 20 is 2 pixels and cuts them.
+        const QString ends = "0*2 0x646464*16 0xffffff*2";
+        addRow("histogram clips 19", KERNEL(optimizeHistogram(i, 19, 19)), ends,
+               "0xff000000*2 0xff646464*16 0xffffffff*2");
+        addRow("histogram clips 20", KERNEL(optimizeHistogram(i, 20, 20)), ends,
+               "0xff000000*2 0xffffffff*18");
+    }
+
+    void byHand()
+    {
+        QFETCH(Kernel, kernel);
+        QFETCH(QString, input);
+        QFETCH(QString, expected);
+        QImage image = fromWords(input);
+        QCOMPARE_IMAGES(kernel(image), fromWords(expected));
+        QCOMPARE_IMAGES(image, fromWords(input));
+        QImage empty;
+        QVERIFY(kernel(empty).isNull());
+    }
+
+    void blurOfOneBrightPixel()
+    {
+        // Weight 14/16, every channel alike. Down the centre column 3570 → 223, then 447 → 27
+        // and 56 → 3; then along the rows, back up and back left.
+        QImage image = fromWords("0*5/0*5/0 0 255 0 0/0*5/0*5", 0x01010101);
+        QCOMPARE_IMAGES(
+            blurImage(image, 1, image.rect(), false),
+            fromWords("0 0 1 0 0/0 2 18 1 0/2 19 153 18 2/0 2 17 1 0/0 0 1 0 0", 0x01010101));
+    }
+
+    void sharpenCountsTheLeftNeighbourTwice()
+    {
+        // (8 c − the neighbours, the left one twice and the right one not at all) / 9. At the
+        // first bright pixel of 0 0 0 90 90 90: (720 − 360) / 9 = 40; at the last bright pixel
+        // of the mirror image: (720 − 540) / 9 = 20.
+        QImage edge = fromWords("0*3 90*3/0*3 90*3/0*3 90*3/0*3 90*3", 0x010101);
+        QImage mirror = edge.mirrored(true, false);
+        QCOMPARE(word(sharpenImage(edge), 2, 1), 0xff000000u);
+        QCOMPARE(word(sharpenImage(edge), 3, 1), 0xff282828u);
+        QCOMPARE(word(sharpenImage(mirror), 2, 1), 0xff141414u);
+        QCOMPARE(word(sharpenImage(mirror), 3, 1), 0xff000000u);
+        for (QImage narrow : {TestUtils::filledImage(3, 10, 0), QImage()})
+            QCOMPARE(sharpenImage(narrow).size(), narrow.size());
+    }
+
+    void resize_data()
+    {
+        QTest::addColumn<QSize>("source");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QSize>("requested");
+        QTest::addColumn<bool>("preview");
+        QTest::addColumn<QSize>("expected"); // empty: the image comes back unchanged
+        addRow("percent truncates", QSize(105, 55), 0, QSize(50, 50), false, QSize(52, 27));
+        addRow("percent ignores aspect", QSize(40, 30), 0, QSize(200, 10), true, QSize(80, 3));
+        addRow("maximum keeps aspect", QSize(200, 100), 1, QSize(300, 300), false, QSize(300, 150));
+        addRow("maximum skipped in preview", QSize(200, 100), 1, QSize(30, 30), true, QSize());
+        // The preview caps the longer requested side at 700.
+        addRow("preview caps width", QSize(90, 60), 2, QSize(1000, 500), true, QSize(700, 350));
+        addRow("preview caps height", QSize(90, 60), 2, QSize(500, 1000), true, QSize(350, 700));
+        addRow("preview 701 wide", QSize(90, 60), 2, QSize(701, 10), true, QSize(700, 9));
+        addRow("preview 700 stays", QSize(90, 60), 2, QSize(700, 700), true, QSize(700, 700));
+        addRow("batch not capped", QSize(90, 60), 2, QSize(1000, 500), false, QSize(1000, 500));
+        addRow("unknown mode", QSize(90, 60), 3, QSize(10, 10), false, QSize());
+    }
+
+    void resize()
+    {
+        QFETCH(QSize, source);
+        QFETCH(int, mode);
+        QFETCH(QSize, requested);
+        QFETCH(bool, preview);
+        QFETCH(QSize, expected);
+        QImage image = fromWords("0xff102030 0xff405060/0xff708090 0xffa0b0c0").scaled(source);
+        const QImage result =
+            resizeImage(image, requested.width(), requested.height(), mode, preview);
+        QCOMPARE_IMAGES(result, expected.isEmpty() ? image
+                                                   : image.scaled(expected, Qt::IgnoreAspectRatio,
+                                                                  Qt::SmoothTransformation));
+    }
+
+    void fitIntoBox_data()
+    {
+        QTest::addColumn<QSize>("source");
+        QTest::addColumn<QRect>("placed");
+        // Into 100 x 100 keeping the aspect ratio, centred on the shorter side.
+        addRow("wide", QSize(200, 100), QRect(0, 25, 100, 50));
+        addRow("tall", QSize(100, 200), QRect(25, 0, 50, 100));
+        addRow("odd remainder", QSize(100, 33), QRect(0, 33, 100, 33));
+    }
+
+    void fitIntoBox()
+    {
+        QFETCH(QSize, source);
+        QFETCH(QRect, placed);
+        QImage image = TestUtils::filledImage(source.width(), source.height(), 0xffff0000);
+        const QImage result = OrkGraphX::fitIntoBox(image, QSize(100, 100), Qt::blue);
+        QCOMPARE(redBounds(result), placed);
+        QCOMPARE(word(result, placed.top() ? 50 : 0, placed.top() ? 0 : 50), 0xff0000ffu);
+    }
+
+    void watermarkPlacement_data()
+    {
+        QTest::addColumn<WMRParams>("params");
+        QTest::addColumn<QRect>("expected"); // the red on a 1000 x 500 image; null for none
+        // Text at the first pixel size wider than 30 % of 1000 (one more than fits) in its cell
+        // of the 3 x 3 grid, moved by the offsets in percent of the height (y up), with a 2-pixel
+        // margin around it.
+        QFont font("DejaVu Sans");
+        for (int size = 1; QFontMetrics(font).horizontalAdvance("Watermark") <= 300; ++size)
+            font.setPixelSize(size);
+        const QSize text(QFontMetrics(font).horizontalAdvance("Watermark"),
+                         QFontMetrics(font).height());
+        const auto box = [text](int column, int row, int dx, int dy) {
+            return QRect(column * (1000 - text.width()) / 2 + 5 * dx - 2,
+                         row * (500 - text.height()) / 2 - 5 * dy - 2, text.width() + 4,
+                         text.height() + 4);
+        };
+        addRow("TopLeft", watermark(0, 30, 0), box(0, 0, 0, 0));
+        addRow("TopRight", watermark(0, 30, 2), box(2, 0, 0, 0));
+        addRow("MiddleLeft offsets 10 10", watermark(0, 30, 3, 10, 10), box(0, 1, 10, 10));
+        addRow("Middle", watermark(0, 30, 4), box(1, 1, 0, 0));
+        addRow("BottomMiddle", watermark(0, 30, 7), box(1, 2, 0, 0));
+        addRow("BottomRight offsets -4 -6", watermark(0, 30, 8, -4, -6), box(2, 2, -4, -6));
+        addRow("unknown 9 is TopLeft", watermark(0, 30, 9), box(0, 0, 0, 0));
+        // The logo at 20 % of 1000 is 200 x 100, drawn at 204 x 104 with the margin; at 33 %
+        // it is 330 x trunc(0.5 · 330) = 165 with its left at (1000 − 330) / 2 = 335.
+        addRow("logo BottomRight", watermark(1, 20, 8), QRect(798, 398, 204, 104));
+        addRow("logo Middle", watermark(1, 20, 4), QRect(398, 198, 204, 104));
+        addRow("logo TopMiddle 33 %", watermark(1, 33, 1), QRect(333, -2, 334, 169));
+        WMRParams params = watermark(1, 5, 8, 20);
+        params.Expand = true;
+        addRow("logo expanded over everything", params, QRect(0, 0, 1000, 500));
+        params.Transparency = 100;
+        addRow("transparency 100", params, QRect());
+        params = watermark(0, 30, 4);
+        params.Transparency = 100;
+        addRow("transparency 100 text", params, QRect());
+        addRow("unknown mode 2", watermark(2, 30, 4), QRect());
+        params = watermark(0, 30, 4);
+        params.Text.clear();
+        addRow("empty text", params, QRect());
+        params.Text = QString(3, QChar(0x200B));
+        params.BackgroundEnabled = false;
+        addRow("zero-width text ends", params, QRect());
+        params = watermark(1, 30, 4);
+        params.ImageData = QImage(0, 10, QImage::Format_ARGB32);
+        addRow("logo of width 0", params, QRect());
+    }
+
+    void watermarkPlacement()
+    {
+        QFETCH(WMRParams, params);
+        QFETCH(QRect, expected);
+        const QImage paper = TestUtils::filledImage(1000, 500, 0xff204060);
+        QImage image = paper;
+        const QImage result = drawWatermark(image, params);
+        QCOMPARE(redBounds(result), expected & paper.rect());
+        QCOMPARE(result == paper, expected.isNull());
+        QImage empty;
+        QVERIFY(drawWatermark(empty, params).isNull());
+    }
+};
+
+PELODINE_TEST_MAIN(TestKernels)
+#include "tst_kernels.moc"
