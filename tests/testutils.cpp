@@ -92,6 +92,12 @@ QString writeImage(const QString& path, const QImage& image)
     return path;
 }
 
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QByteArray jpegWithOrientation(const QImage& image, quint16 orientation)
 {
     QByteArray jpeg;

@@ -34,6 +34,9 @@ QString writeFile(const QString& path, const QByteArray& data);
 // Saves image to path in the format its suffix names, making the folders on the way; returns path.
 QString writeImage(const QString& path, const QImage& image);
 
+// The bytes of the file at path; empty when it cannot be read.
+QByteArray readFile(const QString& path);
+
 // image as a JPEG whose APP1 segment carries the EXIF orientation tag (6: turn 90 degrees
 // clockwise to show it upright).
 QByteArray jpegWithOrientation(const QImage& image, quint16 orientation);
