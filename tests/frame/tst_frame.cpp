@@ -1,200 +1,227 @@
+// The program's frame: log, build date, language, first start, the drop window, and the guard
+// through which a second instance hands its files to the first.
 #include "app.h"
+#include "dropwidget.h"
 #include "flowfile.h"
+#include "singleappcheck.h"
 #include "testutils.h"
 #include "translationsmanager.h"
 
 #include <QDir>
-#include <QFile>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QSettings>
-#include <QTranslator>
+#include <QSignalSpy>
+#include <QUuid>
 
+using OrkTools::SingleAppCheck;
 using OrkWidgets::App;
-using OrkWidgets::TranslationsManager;
+using TestUtils::addRow;
+
+namespace {
+
+// This program again, in one of the child modes of main().
+QProcess* startChild(const QStringList& arguments, const QString& home = QDir::homePath())
+{
+    auto* child = new QProcess(qApp);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", home);
+    child->setProcessEnvironment(environment);
+    child->start(QCoreApplication::applicationFilePath(), arguments);
+    return child;
+}
+
+QString outputOf(const QStringList& arguments, const QString& home = QDir::homePath())
+{
+    QProcess* child = startChild(arguments, home);
+    child->waitForFinished(30000);
+    return child->exitStatus() == QProcess::CrashExit ? "crashed" : child->readAll().trimmed();
+}
+
+QString freshKey()
+{
+    return "pelodine-test-" + QUuid::createUuid().toString(QUuid::Id128);
+}
+
+} // namespace
 
 class TestFrame : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void logLine_data();
-    void logLine();
-    void fatalWritesLineThenAborts();
-    void buildDate_data();
-    void buildDate();
-    void languageForLocale_data();
-    void languageForLocale();
-    void arabicIsRightToLeft();
-    void englishInstallsNoTranslator();
-    void sampleFlowCopiedOnceAndNeverOverwritten();
-    void firstStartFlag();
-    void settingsStayInTheSandbox();
-    void outputBaseFolder();
+    void logLine_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("expected");
+        addRow("debug", int(QtDebugMsg), "04.10.14-09:05 Debug: hello, src/a.cpp");
+        addRow("warning", int(QtWarningMsg), "04.10.14-09:05 Warning: hello, src/a.cpp");
+        addRow("critical", int(QtCriticalMsg), "04.10.14-09:05 Critical: hello, src/a.cpp");
+        addRow("fatal", int(QtFatalMsg), "04.10.14-09:05 Fatal: hello, src/a.cpp");
+    }
+
+    void logLine()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, expected);
+        const QMessageLogContext context("src/a.cpp", 12, "void f()", "default");
+        const QDateTime when(QDate(2014, 10, 4), QTime(9, 5, 33));
+        QCOMPARE(App::logLine(QtMsgType(type), context, "hello", when), expected);
+    }
+
+    void fatalWritesItsLineThenAborts()
+    {
+        QCOMPARE(outputOf({"--fatal-child"}), QString("crashed"));
+        QFile log(QDir::homePath() + "/Pelodine/protocol.log");
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(log.readAll());
+        QVERIFY2(text.contains(QRegularExpression("^\\d\\d\\.\\d\\d\\.\\d\\d-\\d\\d:\\d\\d Fatal: "
+                                                  "the end is near, .*tst_frame\\.cpp$",
+                                                  QRegularExpression::MultilineOption)),
+                 qPrintable(text));
+    }
+
+    void buildDate_data()
+    {
+        QTest::addColumn<QString>("buildString");
+        QTest::addColumn<QDate>("expected");
+        addRow("single-digit day after two blanks", "Oct  4 2014", QDate(2014, 10, 4));
+        addRow("December", "Dec 31 1999", QDate(1999, 12, 31));
+        addRow("unknown month", "Foo  4 2014", QDate());
+    }
+
+    void buildDate()
+    {
+        QFETCH(QString, buildString);
+        QFETCH(QDate, expected);
+        QCOMPARE(App::dateFromBuildString(buildString), expected);
+    }
+
+    void languageForLocale_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("expected");
+        addRow("pt_BR", "pt_BR", "pt");
+        addRow("zh_CN", "zh_CN", "zh_CN");
+        addRow("zh_TW is unknown", "zh_TW", "en");
+        addRow("case-sensitive", "DE", "en");
+        // A substring test in the order de, ru, ...: a locale merely containing "de" is German.
+        addRow("first code in order wins", "rude", "de");
+    }
+
+    void languageForLocale()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, expected);
+        QCOMPARE(OrkWidgets::TranslationsManager::languageForLocale(locale), expected);
+    }
+
+    void sampleFlowCopiedOnceAndNeverOverwritten()
+    {
+        QFile copy(FlowFile::flowsFolder() + "sample.flow");
+        copy.remove();
+        QVERIFY(FlowFile::installSampleFlow());
+        QFile resource(":/sample.flow");
+        QVERIFY(resource.open(QIODevice::ReadOnly) && copy.open(QIODevice::ReadWrite));
+        QCOMPARE(copy.readAll(), resource.readAll());
+        QVERIFY(copy.resize(0) && copy.write("<OperationsFlow/>\n") > 0);
+        copy.close();
+        QVERIFY(FlowFile::installSampleFlow());
+        QVERIFY(copy.open(QIODevice::ReadOnly));
+        QCOMPARE(copy.readAll(), QByteArray("<OperationsFlow/>\n"));
+    }
+
+    void firstStartCreatesTheDataFolder()
+    {
+        QTemporaryDir home;
+        QCOMPARE(outputOf({"--first-start-child"}, home.path()), QString("first"));
+        QVERIFY(QFile::exists(home.path() + "/Pelodine/Flows/sample.flow"));
+        QCOMPARE(outputOf({"--first-start-child"}, home.path()), QString("again"));
+        QVERIFY(App::outputBaseFolder().startsWith(TestUtils::sandboxHome()));
+        QVERIFY(App::outputBaseFolder().endsWith("/Qubrast/Pelodine/"));
+    }
+
+    void dropWindowHandsOnUriListsInOrder()
+    {
+        OrkWidgets::DropWidget widget;
+        QSignalSpy dropped(&widget, &OrkWidgets::DropWidget::dropped);
+        QMimeData text;
+        text.setText("/p/a.jpg");
+        QDragEnterEvent refused(QPoint(10, 10), Qt::CopyAction, &text, Qt::LeftButton, {});
+        QApplication::sendEvent(&widget, &refused);
+        QVERIFY(!refused.isAccepted());
+        const QList<QUrl> urls = {QUrl::fromLocalFile("/p/b.jpg"), QUrl::fromLocalFile("/p/a.jpg")};
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&widget, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&widget, &drop);
+        QCOMPARE(dropped.count(), 1);
+        QCOMPARE(dropped.first().first().value<QList<QUrl>>(), urls);
+    }
+
+    void secondInstanceHandsOverItsMessage_data()
+    {
+        QTest::addColumn<QString>("message");
+        addRow("one path", "/home/user/a.jpg\n");
+        addRow("non-ASCII path", QString::fromUtf8("/home/юзер/Фото ß.jpg\n"));
+        addRow("two thousand paths", QString("/home/user/photos/holiday.jpg\n").repeated(2000));
+    }
+
+    // A second guard of the same key sees the first running; a second process hands it the
+    // message, which only the second can send.
+    void secondInstanceHandsOverItsMessage()
+    {
+        QFETCH(QString, message);
+        const QString key = freshKey();
+        SingleAppCheck first(key);
+        QVERIFY(!first.isRunning() && !first.sendMessage("nobody to send to"));
+        QVERIFY(SingleAppCheck(key).isRunning());
+        QSignalSpy received(&first, &SingleAppCheck::messageReceived);
+        QProcess* second = startChild({"--send", key, message});
+        QVERIFY(received.wait(10000));
+        QCOMPARE(received.first().first().toString(), message);
+        QVERIFY(second->state() == QProcess::NotRunning || second->waitForFinished(10000));
+        QCOMPARE(second->exitCode(), 0);
+    }
+
+    void segmentOfAKilledInstanceIsTakenOver()
+    {
+        const QString key = freshKey();
+        QProcess* killed = startChild({"--hold", key});
+        QVERIFY(killed->waitForReadyRead(10000));
+        killed->kill(); // SIGKILL: the segment stays behind
+        QVERIFY(killed->waitForFinished(10000));
+        SingleAppCheck next(key);
+        QVERIFY(next.isRunning() && !next.sendMessage("anyone?"));
+        QVERIFY(next.takeOver());
+        QSignalSpy received(&next, &SingleAppCheck::messageReceived);
+        SingleAppCheck later(key);
+        QVERIFY(later.isRunning() && later.sendMessage("/tmp/x.png\n"));
+        QVERIFY(received.wait(5000));
+        QVERIFY(SingleAppCheck::userKey("Pelodine").startsWith("Pelodine-"));
+    }
 };
-
-void TestFrame::logLine_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("debug") << int(QtDebugMsg) << "04.10.14-09:05 Debug: hello, src/a.cpp";
-    QTest::newRow("warning") << int(QtWarningMsg) << "04.10.14-09:05 Warning: hello, src/a.cpp";
-    QTest::newRow("critical") << int(QtCriticalMsg) << "04.10.14-09:05 Critical: hello, src/a.cpp";
-    QTest::newRow("fatal") << int(QtFatalMsg) << "04.10.14-09:05 Fatal: hello, src/a.cpp";
-}
-
-void TestFrame::logLine()
-{
-    QFETCH(int, type);
-    QFETCH(QString, expected);
-    const QMessageLogContext context("src/a.cpp", 12, "void f()", "default");
-    const QDateTime when(QDate(2014, 10, 4), QTime(9, 5, 33));
-    QCOMPARE(App::logLine(QtMsgType(type), context, "hello", when), expected);
-}
-
-void TestFrame::fatalWritesLineThenAborts()
-{
-    const QString log = QDir::homePath() + "/Pelodine/protocol.log";
-    QFile::remove(log);
-    QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {"--fatal-child"});
-    QVERIFY(child.waitForFinished(30000));
-    QCOMPARE(child.exitStatus(), QProcess::CrashExit);
-    QFile file(log);
-    QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
-    const QString text = QString::fromUtf8(file.readAll());
-    QVERIFY2(text.contains(QRegularExpression(
-                 "^\\d\\d\\.\\d\\d\\.\\d\\d-\\d\\d:\\d\\d Fatal: the end is near, .*tst_frame\\.cpp\\n",
-                 QRegularExpression::MultilineOption)),
-             qPrintable(text));
-}
-
-void TestFrame::buildDate_data()
-{
-    QTest::addColumn<QString>("buildString");
-    QTest::addColumn<QDate>("expected");
-    QTest::newRow("two-blank single-digit day") << "Oct  4 2014" << QDate(2014, 10, 4);
-    QTest::newRow("two-digit day") << "Oct 24 2014" << QDate(2014, 10, 24);
-    QTest::newRow("January") << "Jan 31 2020" << QDate(2020, 1, 31);
-    QTest::newRow("December") << "Dec  1 1999" << QDate(1999, 12, 1);
-    QTest::newRow("unknown month") << "Foo  4 2014" << QDate();
-}
-
-void TestFrame::buildDate()
-{
-    QFETCH(QString, buildString);
-    QFETCH(QDate, expected);
-    QCOMPARE(App::dateFromBuildString(buildString), expected);
-}
-
-void TestFrame::languageForLocale_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("pt_BR") << "pt_BR" << "pt";
-    QTest::newRow("ar_EG") << "ar_EG" << "ar";
-    QTest::newRow("de_DE") << "de_DE" << "de";
-    QTest::newRow("ru_RU") << "ru_RU" << "ru";
-    QTest::newRow("zh_CN") << "zh_CN" << "zh_CN";
-    QTest::newRow("zh_TW is unknown") << "zh_TW" << "en";
-    QTest::newRow("unknown") << "xx_YY" << "en";
-    QTest::newRow("case-sensitive") << "DE" << "en";
-    // The substring test looks for "de" first, so a locale that merely contains it wins German.
-    QTest::newRow("first code in order wins") << "rude" << "de";
-}
-
-void TestFrame::languageForLocale()
-{
-    QFETCH(QString, locale);
-    QFETCH(QString, expected);
-    QCOMPARE(TranslationsManager::languageForLocale(locale), expected);
-}
-
-void TestFrame::arabicIsRightToLeft()
-{
-    TranslationsManager manager;
-    manager.setLanguage("ar");
-    QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
-    QCOMPARE(App::readSetting("Language").toString(), QString("ar"));
-    manager.setLanguage("en");
-    QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
-}
-
-void TestFrame::englishInstallsNoTranslator()
-{
-    App::writeSetting("Language", "xx_YY");
-    TranslationsManager manager;
-    QCOMPARE(manager.language(), QString("en"));
-    QCOMPARE(manager.installedCount(), 0);
-    QCOMPARE(App::readSetting("Language").toString(), QString("en"));
-}
-
-void TestFrame::sampleFlowCopiedOnceAndNeverOverwritten()
-{
-    const QString target = FlowFile::flowsFolder() + "sample.flow";
-    QFile::remove(target);
-    QVERIFY(FlowFile::installSampleFlow());
-
-    QFile resource(":/sample.flow");
-    QVERIFY(resource.open(QIODevice::ReadOnly));
-    QFile copy(target);
-    QVERIFY(copy.open(QIODevice::ReadOnly));
-    QCOMPARE(copy.readAll(), resource.readAll());
-    copy.close();
-
-    QVERIFY(copy.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    copy.write("<OperationsFlow/>\n");
-    copy.close();
-    QVERIFY(FlowFile::installSampleFlow());
-    QVERIFY(copy.open(QIODevice::ReadOnly));
-    QCOMPARE(copy.readAll(), QByteArray("<OperationsFlow/>\n"));
-}
-
-void TestFrame::firstStartFlag()
-{
-    // Each child gets a home of its own; the first start creates the data folder.
-    QTemporaryDir home;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("HOME", home.path());
-    const auto runChild = [&env] {
-        QProcess child;
-        child.setProcessEnvironment(env);
-        child.start(QCoreApplication::applicationFilePath(), {"--first-start-child"});
-        child.waitForFinished(30000);
-        return QString::fromUtf8(child.readAllStandardOutput()).trimmed();
-    };
-    QCOMPARE(runChild(), QString("first"));
-    QVERIFY(QDir(home.path() + "/Pelodine").exists());
-    QVERIFY(QFile::exists(home.path() + "/Pelodine/Flows/sample.flow"));
-    QCOMPARE(runChild(), QString("again"));
-}
-
-void TestFrame::settingsStayInTheSandbox()
-{
-    App::writeSetting("KeyProbe", 42);
-    QSettings settings("Qubrast", "Pelodine");
-    QVERIFY2(settings.fileName().startsWith(TestUtils::sandboxHome()),
-             qPrintable(settings.fileName()));
-    QCOMPARE(App::readSetting("KeyProbe").toInt(), 42);
-    QCOMPARE(App::readSetting("KeyMissing", "fallback").toString(), QString("fallback"));
-}
-
-void TestFrame::outputBaseFolder()
-{
-    const QString folder = App::outputBaseFolder();
-    QVERIFY2(folder.startsWith(TestUtils::sandboxHome()), qPrintable(folder));
-    QVERIFY(folder.endsWith("/Qubrast/Pelodine/"));
-}
 
 int main(int argc, char* argv[])
 {
     const QByteArray mode = argc > 1 ? QByteArray(argv[1]) : QByteArray();
-    if (mode == "--fatal-child") {
-        App app(argc, argv, "Qubrast", "Pelodine");
-        qFatal("the end is near");
+    if (mode == "--hold" || mode == "--send") {
+        QCoreApplication app(argc, argv);
+        SingleAppCheck guard(app.arguments().value(2));
+        if (mode == "--send")
+            return guard.isRunning() && guard.sendMessage(app.arguments().value(3)) ? 0 : 1;
+        printf("holding\n");
+        fflush(stdout);
+        return app.exec();
     }
-    if (mode == "--first-start-child") {
+    if (mode == "--fatal-child" || mode == "--first-start-child") {
         App app(argc, argv, "Qubrast", "Pelodine");
+        if (mode == "--fatal-child")
+            qFatal("the end is near");
         if (app.isFirstStart())
             FlowFile::installSampleFlow();
         printf("%s\n", app.isFirstStart() ? "first" : "again");

@@ -1,0 +1,352 @@
+// The translations (complete, in step with the sources, compiled in and taking effect), the
+// language, help and about menus, and what the program opens from its arguments or from a second
+// instance: photos to the photo side, ".flow" files to the flow panel.
+#include "app.h"
+#include "basenode.h"
+#include "commondata.h"
+#include "dropwidget.h"
+#include "flowpanel.h"
+#include "mainpage.h"
+#include "nodecatalogue.h"
+#include "startup.h"
+#include "testutils.h"
+#include "translationsmanager.h"
+
+#include <QDir>
+#include <QDomDocument>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSettings>
+
+using OrkWidgets::App;
+using TestUtils::addRow;
+
+namespace {
+
+QDomNodeList tsMessages(const QString& path)
+{
+    QFile file(path);
+    QDomDocument document;
+    document.setContent(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
+    return document.elementsByTagName("message");
+}
+
+// "context|source" of every message of a .ts file.
+QSet<QString> messageKeys(const QString& path)
+{
+    QSet<QString> keys;
+    const QDomNodeList messages = tsMessages(path);
+    for (int i = 0; i < messages.size(); ++i)
+        keys << messages.at(i).parentNode().firstChildElement("name").text() + "|" +
+                    messages.at(i).firstChildElement("source").text();
+    return keys;
+}
+
+// The placeholders and the markup tags of a text, sorted: a translation keeps them all.
+QStringList fixedParts(const QString& text)
+{
+    QStringList found;
+    for (auto it = QRegularExpression("%[0-9n]|<[^<>]*>").globalMatch(text); it.hasNext();)
+        found << it.next().captured().toUpper();
+    found.sort();
+    return found;
+}
+
+QString flowOf(const QStringList& names)
+{
+    QString flow = "<OperationsFlow>\n";
+    for (int i = 0; i < names.size(); ++i)
+        flow += QString(" <Operation name=\"%1\" index=\"%2\">\n  <Parameters>\n   <Active>yes"
+                        "</Active>\n  </Parameters>\n </Operation>\n")
+                    .arg(names[i])
+                    .arg(i);
+    return flow + "</OperationsFlow>\n";
+}
+
+QString writeFile(const QTemporaryDir& dir, const QString& name, const QString& content)
+{
+    QFile file(dir.filePath(name));
+    file.open(QIODevice::WriteOnly);
+    file.write(content.toUtf8());
+    return file.fileName();
+}
+
+QMenu* menuAt(const MainPage& page, int index)
+{
+    return page.findChild<QMenuBar*>("MenuBar")->actions().value(index)->menu();
+}
+
+} // namespace
+
+class TestLanguages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup()
+    {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (QWidget* window : windows)
+            if (qobject_cast<QMessageBox*>(window))
+                window->close();
+        App::instance()->translations()->setLanguage("en");
+    }
+
+    void tsFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("folders");
+        addRow("Pelodine_de", "Pelodine_de", PELODINE_APP_TEXT_DIRS);
+        addRow("Pelodine_ru", "Pelodine_ru", PELODINE_APP_TEXT_DIRS);
+        addRow("libs_de", "libs_de", PELODINE_LIBS_TEXT_DIRS);
+        addRow("libs_ru", "libs_ru", PELODINE_LIBS_TEXT_DIRS);
+    }
+
+    // Every text translated with its placeholders and tags, and a fresh scan of the sources
+    // finding exactly the texts of the committed file.
+    void tsFile()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, folders);
+        const QString path = QString(PELODINE_TS_DIR) + "/" + name + ".ts";
+        const QDomNodeList messages = tsMessages(path);
+        QVERIFY2(messages.size() > 10, qPrintable(path));
+        for (int i = 0; i < messages.size(); ++i) {
+            const QString source = messages.at(i).firstChildElement("source").text();
+            const QDomElement translation = messages.at(i).firstChildElement("translation");
+            QVERIFY2(!translation.hasAttribute("type"), qPrintable(source));
+            const QDomNodeList forms = translation.elementsByTagName("numerusform");
+            QStringList texts;
+            for (int f = 0; f < forms.size(); ++f)
+                texts << forms.at(f).toElement().text();
+            if (texts.isEmpty())
+                texts << translation.text();
+            for (const QString& text : qAsConst(texts)) {
+                QVERIFY2(!text.trimmed().isEmpty() || source.trimmed().isEmpty(),
+                         qPrintable(source));
+                QCOMPARE(fixedParts(text), fixedParts(source));
+            }
+        }
+        QTemporaryDir scratch;
+        QProcess lupdate;
+        lupdate.setWorkingDirectory(PELODINE_SOURCE_ROOT);
+        lupdate.start(PELODINE_LUPDATE, QStringList{"-silent", "-no-obsolete"} +
+                                            folders.split(',') +
+                                            QStringList{"-ts", scratch.filePath(name + ".ts")});
+        QVERIFY(lupdate.waitForFinished(120000) && lupdate.exitCode() == 0);
+        QCOMPARE(messageKeys(scratch.filePath(name + ".ts")), messageKeys(path));
+    }
+
+    void textsOfEachLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("caption");
+        QTest::addColumn<QString>("cancel");
+        QTest::addColumn<QString>("node");
+        QTest::addColumn<bool>("rightToLeft");
+        addRow("de", "de", "<H2>Fotos hierher ziehen</H2>", "Abbrechen", "Größe ändern", false);
+        addRow("en after de", "en", "<H2>Drop the photos here</H2>", "Cancel", "Resize", false);
+        addRow("ru", "ru", "<H2>Перетащите фото сюда</H2>", "Отмена", "Изменение размера", false);
+        addRow("ar has no texts", "ar", "<H2>Drop the photos here</H2>", "Cancel", "Resize", true);
+    }
+
+    // The drop window's caption (the libraries' file), Qt's own "Cancel" (the "qt_" file) and a
+    // node's name (the program's file, while the name itself stays the key).
+    void textsOfEachLanguage()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, caption);
+        QFETCH(QString, cancel);
+        QFETCH(QString, node);
+        QFETCH(bool, rightToLeft);
+        App::instance()->translations()->setLanguage(language);
+        QCOMPARE(OrkWidgets::DropWidget().findChild<QLabel*>("DropWidgetCaption")->text(), caption);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), cancel);
+        QCOMPARE(displayNameForNodeName("Resize"), node);
+        QCOMPARE(displayNameForNodeName("Sharpen"), QString("Sharpen")); // not a node
+        QCOMPARE(QGuiApplication::isRightToLeft(), rightToLeft);
+        QCOMPARE(QSettings().value("Language").toString(), language);
+    }
+
+    void nodeIcons()
+    {
+        const auto icons = TestUtils::keyValues(
+            "RGB-Order=RGB|Brightness, Contrast, Saturation=BRT|Rotate=RTT|Blur=BLR|Invert=INV|"
+            "Mirror=MRR|Grayscale=GRS|Watermark=WMR|Crop=CRP|Resize=RSZ|Histogram optimizer=HST|"
+            "Frame=FRM|Binarization=BIN|Vignetting=WGN");
+        QCOMPARE(factoryNodeNames().size(), icons.size());
+        for (const auto& [name, code] : icons) {
+            QVERIFY2(factoryNodeNames().contains(name), qPrintable(name));
+            QCOMPARE_IMAGES(
+                iconForNodeName(name).toImage().convertToFormat(QImage::Format_ARGB32),
+                QImage(":/Icon_" + code + ".png").convertToFormat(QImage::Format_ARGB32));
+        }
+    }
+
+    void choosingALanguage_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("notice");
+        addRow("Deutsch", 1, "de", "Die neue Sprache gilt ab dem nächsten Start von Pelodine.");
+        addRow("Русский", 2, "ru",
+               "Новый язык будет использоваться после следующего запуска Pelodine.");
+    }
+
+    // English, Deutsch, Русский, each under its own name; the notice comes in the chosen
+    // language, its translators installed at once, and a new page checks it.
+    void choosingALanguage()
+    {
+        QFETCH(int, row);
+        QFETCH(QString, stored);
+        QFETCH(QString, notice);
+        MainPage page;
+        page.show();
+        const QList<QAction*> actions = menuAt(page, 0)->actions();
+        QCOMPARE(actions.size(), 3);
+        QVERIFY(actions[0]->isChecked() && actions[0]->text() == "English");
+        actions[row]->trigger();
+        QCOMPARE(QSettings().value("Language").toString(), stored);
+        QCOMPARE(page.findChild<QMessageBox*>("LanguageNotice")->text(), notice);
+        QCOMPARE(actions[row]->text(), QString(QTest::currentDataTag()));
+        MainPage next;
+        QVERIFY(menuAt(next, 0)->actions()[row]->isChecked());
+    }
+
+    // Items taller than the bar would be hidden behind the bar's overflow button.
+    void menuItemsFitTheBar()
+    {
+        MainPage page;
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        const auto* bar = page.findChild<QMenuBar*>("MenuBar");
+        for (QAction* action : bar->actions())
+            QVERIFY2(bar->rect().contains(bar->actionGeometry(action)), qPrintable(action->text()));
+    }
+
+    void helpAndAbout()
+    {
+        MainPage page;
+        App::instance()->setMainWidget(&page);
+        App::instance()->setHelpSlides({":/help/en/slide1.png", ":/help/en/slide2.png"});
+        menuAt(page, 1)->actions().at(0)->trigger();
+        auto* window = page.findChild<QDialog*>("HelpWindow");
+        QVERIFY(window && window->isVisible());
+        // The whole 1000 x 700 slide shows, at most reduced to the screen: none of it is cut off.
+        const auto* picture = window->findChild<QLabel*>("HelpSlide");
+        const QSize shown = picture->pixmap(Qt::ReturnByValue).size();
+        QVERIFY2(!shown.isEmpty() && qAbs(shown.width() * 700 - shown.height() * 1000) <= 1000,
+                 qPrintable(QString("%1x%2").arg(shown.width()).arg(shown.height())));
+        QVERIFY(picture->width() >= shown.width() && picture->height() >= shown.height());
+        window->close();
+        const QString about = App::instance()->aboutText();
+        const QString built = QLocale("en").toString(App::buildDate(), QLocale::LongFormat);
+        QVERIFY2(about.contains("<H2>Pelodine</H2>") && about.contains("Version 1.0") &&
+                     App::buildDate().isValid() && about.contains("Built on " + built),
+                 qPrintable(about));
+    }
+
+    void helpSlides_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("shown");
+        addRow("de", "de", "de");
+        addRow("ru", "ru", "ru");
+        addRow("fr falls back to en", "fr", "en");
+    }
+
+    void helpSlides()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, shown);
+        const QStringList slides = Startup::helpSlides(language);
+        QCOMPARE(slides.first(), ":/help/" + shown + "/slide1.png");
+        QCOMPARE(slides.last(), ":/help/" + shown + "/slide11.png");
+        for (const QString& slide : slides)
+            QVERIFY2(!QImage(slide).isNull(), qPrintable(slide));
+    }
+
+    void splitPaths_data()
+    {
+        QTest::addColumn<QString>("lines");
+        QTest::addColumn<QString>("photos");
+        QTest::addColumn<QString>("flows");
+        addRow("mixed, order kept", "/p/a.jpg\n/f/1.flow\n/p/b.png\n/f/2.FLOW", "/p/a.jpg /p/b.png",
+               "/f/1.flow /f/2.FLOW");
+        addRow("flow inside a name is a photo", "/p/a.flow.jpg\n", "/p/a.flow.jpg", "");
+        addRow("empty message", "\n", "", "");
+    }
+
+    void splitPaths()
+    {
+        QFETCH(QString, lines);
+        QFETCH(QString, photos);
+        QFETCH(QString, flows);
+        const Startup::OpenRequest request = Startup::splitPaths(lines);
+        QStringList photoPaths;
+        for (const QUrl& url : request.photos)
+            photoPaths << url.toLocalFile();
+        QCOMPARE(photoPaths.join(' '), photos);
+        QCOMPARE(request.flows.join(' '), flows);
+    }
+
+    void fileArgumentsAreTheExistingFiles()
+    {
+        QTemporaryDir dir;
+        const QString flow = writeFile(dir, "my.flow", flowOf({"Crop"}));
+        const QString photo = writeFile(dir, "photo.png", "not really");
+        QDir::setCurrent(dir.path());
+        QCOMPARE(Startup::fileArguments({"pelodine", "my.flow", "missing.png", photo}),
+                 (QStringList{flow, photo}));
+    }
+
+    void openPaths_data()
+    {
+        QTest::addColumn<QString>("files");
+        QTest::addColumn<bool>("opened");
+        QTest::addColumn<QString>("nodes");
+        QTest::addColumn<int>("photos");
+        addRow("pelodine my.flow", "my.flow", true, "Crop Invert", 0);
+        addRow("photo and flow", "photo.png my.flow", true, "Crop Invert", 1);
+        addRow("the last readable flow wins", "my.flow other.flow gone.flow", true, "Watermark", 0);
+        addRow("unreadable flow opens nothing", "gone.flow", false, "", 0);
+    }
+
+    void openPaths()
+    {
+        QFETCH(QString, files);
+        QFETCH(bool, opened);
+        QFETCH(QString, nodes);
+        QFETCH(int, photos);
+        QTemporaryDir dir;
+        writeFile(dir, "my.flow", flowOf({"Crop", "Invert"}));
+        writeFile(dir, "other.flow", flowOf({"Watermark"}));
+        QVERIFY(TestUtils::filledImage(40, 30, 0xff336699).save(dir.filePath("photo.png")));
+        CommonData::instance()->photoCount = 0;
+        MainPage page;
+        const QString lines = dir.path() + "/" + files.split(' ').join("\n" + dir.path() + "/");
+        QCOMPARE(Startup::openPaths(&page, lines + "\n"), opened);
+        QStringList names;
+        for (const BaseNode* node : page.flowPanel()->flow())
+            names << node->name();
+        QCOMPARE(names.join(' '), nodes);
+        QCOMPARE(page.isVisible(), opened);
+        QCOMPARE(CommonData::instance()->photoCount, photos);
+    }
+};
+
+int main(int argc, char* argv[])
+{
+    TestUtils::makeSandboxHome();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    App app(argc, argv, "Qubrast", "Pelodine");
+    app.setApplicationVersion("1.0");
+    app.setStyleSheet(App::resourceText(":/stylesheet.qss"));
+    TestLanguages test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_languages.moc"
