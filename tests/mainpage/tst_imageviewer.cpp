@@ -150,21 +150,22 @@ void TestImageViewer::stepsAndLeaving()
 
 void TestImageViewer::paintsThePicture()
 {
-    // The picture makes room for the heading above it.
-    viewer->setHeading("<H1>2 of 5</H1>");
-    const auto* heading = viewer->findChild<QLabel*>("ImageViewerHeading");
-    QTRY_VERIFY(viewer->imageRect().top() > heading->geometry().bottom());
-
     const int y = int(viewer->imageRect().center().y());
     // Fitted: red on the left half, blue on the right.
     const QImage fitted = viewer->grab().toImage();
     QCOMPARE(fitted.pixel(100, y), qRgb(255, 0, 0));
     QCOMPARE(fitted.pixel(300, y), qRgb(0, 0, 255));
-
     // Actual pixels, scrolled to the right end: all blue.
     QTest::keyClick(viewer, Qt::Key_1);
     drag(viewer, QPoint(200, y), QPoint(-300, y));
     QCOMPARE(viewer->grab().toImage().pixel(10, y), qRgb(0, 0, 255));
+
+    // A picture as tall as the room makes way for a heading above it.
+    viewer->setImage(TestUtils::filledImage(100, 1000, 0xff808080));
+    viewer->setHeading("<H1>2 of 5</H1>");
+    const auto* heading = viewer->findChild<QLabel*>("ImageViewerHeading");
+    QTRY_COMPARE(heading->height(), heading->sizeHint().height());
+    QVERIFY(viewer->imageRect().top() > heading->geometry().bottom());
 }
 
 PELODINE_TEST_MAIN(TestImageViewer)

@@ -1,5 +1,5 @@
-// The main page: photos dropped in, stepping through them, the live preview on a reduced copy,
-// the large view at full size and the batch run with the flow's active nodes.
+// The main page: photos read upright, their thumbnails, photos dropped in and stepped through,
+// the live preview on a reduced copy, the large view at full size and the batch run.
 #include "app.h"
 #include "basenode.h"
 #include "commondata.h"
@@ -13,6 +13,7 @@
 #include "itemsmodel.h"
 #include "mainpage.h"
 #include "nodesoptionspanel.h"
+#include "photofiles.h"
 #include "representor.h"
 #include "testutils.h"
 
@@ -56,6 +57,11 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
+    void readUpright_data();
+    void readUpright();
+    void thumbnail_data();
+    void thumbnail();
+    void newListReadsThumbnailsAnew();
     void dropPhotos_data();
     void dropPhotos();
     void steppingHandsOnThePhoto_data();
@@ -109,6 +115,89 @@ QList<QUrl> TestMainPage::photos(const QStringList& names) const
     for (const QString& name : names)
         urls << QUrl::fromLocalFile(dir.filePath(name));
     return urls;
+}
+
+void TestMainPage::readUpright_data()
+{
+    QTest::addColumn<QSize>("box"); // empty: read whole
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QPoint>("red");
+    QTest::addColumn<QPoint>("blue");
+
+    // Stored 400 x 200, red left, blue right, to be turned clockwise: red on top.
+    addRow("read whole", QSize(), QSize(200, 400), QPoint(100, 50), QPoint(100, 350));
+    // The box holds the upright photo, not the stored one.
+    addRow("fitted into a wide box", QSize(100, 50), QSize(25, 50), QPoint(12, 8), QPoint(12, 42));
+}
+
+void TestMainPage::readUpright()
+{
+    QFETCH(QSize, box);
+    QFETCH(QSize, size);
+    QFETCH(QPoint, red);
+    QFETCH(QPoint, blue);
+
+    const QString path = dir.filePath("turned.jpg");
+    const QImage photo = box.isEmpty() ? PhotoFiles::read(path) : PhotoFiles::readFitted(path, box);
+    QCOMPARE(photo.size(), size);
+    QVERIFY(qRed(photo.pixel(red)) > 200 && qBlue(photo.pixel(red)) < 60);
+    QVERIFY(qBlue(photo.pixel(blue)) > 200 && qRed(photo.pixel(blue)) < 60);
+}
+
+void TestMainPage::thumbnail_data()
+{
+    QTest::addColumn<QSize>("photo"); // empty: not a photo
+    QTest::addColumn<QRect>("opaque");
+
+    // Read at a twentieth, then fitted into 48 x 48 and centred on transparency.
+    addRow("landscape 800x600", QSize(800, 600), QRect(0, 6, 48, 36));
+    addRow("portrait 600x1200", QSize(600, 1200), QRect(12, 0, 24, 48));
+    // Read at 1 x 2, as a twentieth would leave no pixel across.
+    addRow("tiny 9x30", QSize(9, 30), QRect(12, 0, 24, 48));
+    addRow("unreadable", QSize(), QRect());
+}
+
+void TestMainPage::thumbnail()
+{
+    QFETCH(QSize, photo);
+    QFETCH(QRect, opaque);
+
+    const QString path =
+        photo.isEmpty()
+            ? dir.filePath("broken.jpg")
+            : TestUtils::writeImage(
+                  dir.filePath(QString("t%1x%2.png").arg(photo.width()).arg(photo.height())),
+                  TestUtils::filledImage(photo.width(), photo.height(), 0xff208040));
+    ItemsModel model;
+    model.setPhotos({QUrl::fromLocalFile(path)});
+    const QImage thumbnail = model.data(model.index(0), Qt::DecorationRole).value<QImage>();
+    QCOMPARE(thumbnail.size(), opaque.isNull() ? QSize(0, 0) : QSize(48, 48));
+    QRect covered;
+    for (int y = 0; y < thumbnail.height(); ++y) {
+        for (int x = 0; x < thumbnail.width(); ++x) {
+            const int alpha = qAlpha(thumbnail.pixel(x, y));
+            QVERIFY2(alpha == 0 || alpha == 255, qPrintable(QString("(%1,%2)").arg(x).arg(y)));
+            covered |= alpha ? QRect(x, y, 1, 1) : QRect();
+        }
+    }
+    QCOMPARE(covered, opaque);
+}
+
+void TestMainPage::newListReadsThumbnailsAnew()
+{
+    const QString path = TestUtils::writeImage(dir.filePath("changing.png"),
+                                               TestUtils::filledImage(96, 96, 0xffff0000));
+    const auto centre = [](const ItemsModel& model) {
+        return model.data(model.index(0), Qt::DecorationRole).value<QImage>().pixel(24, 24);
+    };
+    ItemsModel model;
+    model.setPhotos({QUrl::fromLocalFile(path)});
+    QCOMPARE(centre(model), 0xffff0000);
+    // Kept while the list stays.
+    TestUtils::writeImage(path, TestUtils::filledImage(96, 96, 0xff00ff00));
+    QCOMPARE(centre(model), 0xffff0000);
+    model.setPhotos({QUrl::fromLocalFile(path)});
+    QCOMPARE(centre(model), 0xff00ff00);
 }
 
 void TestMainPage::dropPhotos_data()
@@ -283,7 +372,6 @@ void TestMainPage::batchRunsActiveNodesOnThePhotos()
     // Two runs from the flow panel, each closing its dialog when done: the page keeps one
     // dialog, so the odd numbers go on.
     OrkWidgets::App::writeSetting("KeyOpenLocation", false);
-    OrkWidgets::App::writeSetting("KeyFormat", "PNG");
     OrkWidgets::App::writeSetting("KeyRename", true);
     OrkWidgets::App::writeSetting("KeyNumbers", 1);
     QDir(OrkWidgets::App::outputBaseFolder()).removeRecursively();
@@ -298,7 +386,7 @@ void TestMainPage::batchRunsActiveNodesOnThePhotos()
         written << QFileInfo(files.next()).fileName();
     written.sort();
     QCOMPARE(written,
-             (QStringList{"NewName1.png", "NewName3.png", "NewName5.png", "NewName7.png"}));
+             (QStringList{"NewName1.jpeg", "NewName3.jpeg", "NewName5.jpeg", "NewName7.jpeg"}));
 }
 
 PELODINE_TEST_MAIN(TestMainPage)
