@@ -39,11 +39,6 @@ QString outputOf(const QStringList& arguments, const QString& home = QDir::homeP
     return child->exitStatus() == QProcess::CrashExit ? "crashed" : child->readAll().trimmed();
 }
 
-QString freshKey()
-{
-    return "pelodine-test-" + QUuid::createUuid().toString(QUuid::Id128);
-}
-
 } // namespace
 
 class TestFrame : public QObject
@@ -73,13 +68,11 @@ private slots:
     void fatalWritesItsLineThenAborts()
     {
         QCOMPARE(outputOf({"--fatal-child"}), QString("crashed"));
-        QFile log(QDir::homePath() + "/Pelodine/protocol.log");
-        QVERIFY(log.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(log.readAll());
-        QVERIFY2(text.contains(QRegularExpression("^\\d\\d\\.\\d\\d\\.\\d\\d-\\d\\d:\\d\\d Fatal: "
-                                                  "the end is near, .*tst_frame\\.cpp$",
-                                                  QRegularExpression::MultilineOption)),
-                 qPrintable(text));
+        const QString log = TestUtils::readFile(QDir::homePath() + "/Pelodine/protocol.log");
+        QVERIFY2(log.contains(QRegularExpression("^\\d\\d\\.\\d\\d\\.\\d\\d-\\d\\d:\\d\\d Fatal: "
+                                                 "the end is near, .*tst_frame\\.cpp$",
+                                                 QRegularExpression::MultilineOption)),
+                 qPrintable(log));
     }
 
     void buildDate_data()
@@ -119,17 +112,13 @@ private slots:
 
     void sampleFlowCopiedOnceAndNeverOverwritten()
     {
-        QFile copy(FlowFile::flowsFolder() + "sample.flow");
-        copy.remove();
+        const QString copy = FlowFile::flowsFolder() + "sample.flow";
+        QFile::remove(copy);
         QVERIFY(FlowFile::installSampleFlow());
-        QFile resource(":/sample.flow");
-        QVERIFY(resource.open(QIODevice::ReadOnly) && copy.open(QIODevice::ReadWrite));
-        QCOMPARE(copy.readAll(), resource.readAll());
-        QVERIFY(copy.resize(0) && copy.write("<OperationsFlow/>\n") > 0);
-        copy.close();
+        QCOMPARE(TestUtils::readFile(copy), TestUtils::readFile(":/sample.flow"));
+        TestUtils::writeFile(copy, "<OperationsFlow/>\n");
         QVERIFY(FlowFile::installSampleFlow());
-        QVERIFY(copy.open(QIODevice::ReadOnly));
-        QCOMPARE(copy.readAll(), QByteArray("<OperationsFlow/>\n"));
+        QCOMPARE(TestUtils::readFile(copy), QByteArray("<OperationsFlow/>\n"));
     }
 
     void firstStartCreatesTheDataFolder()
@@ -176,7 +165,7 @@ private slots:
     void secondInstanceHandsOverItsMessage()
     {
         QFETCH(QString, message);
-        const QString key = freshKey();
+        const QString key = QUuid::createUuid().toString(QUuid::Id128);
         SingleAppCheck first(key);
         QVERIFY(!first.isRunning() && !first.sendMessage("nobody to send to"));
         QVERIFY(SingleAppCheck(key).isRunning());
@@ -190,7 +179,7 @@ private slots:
 
     void segmentOfAKilledInstanceIsTakenOver()
     {
-        const QString key = freshKey();
+        const QString key = QUuid::createUuid().toString(QUuid::Id128);
         QProcess* killed = startChild({"--hold", key});
         QVERIFY(killed->waitForReadyRead(10000));
         killed->kill(); // SIGKILL: the segment stays behind

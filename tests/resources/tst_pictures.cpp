@@ -1,6 +1,7 @@
-// The compiled-in pictures: each with a double-size version for high-density screens, and the
-// style sheet's pictures present and drawn on its picture buttons.
+// The compiled-in pictures: each with a double-size version for high-density screens, each node
+// with its icon, and the style sheet's pictures present and drawn on its picture buttons.
 #include "app.h"
+#include "nodecatalogue.h"
 #include "testutils.h"
 
 #include <QDir>
@@ -60,6 +61,21 @@ private slots:
                 ++count;
             }
         QVERIFY(count > 40);
+    }
+
+    void nodeIcons()
+    {
+        const auto icons = TestUtils::keyValues(
+            "RGB-Order=RGB|Brightness, Contrast, Saturation=BRT|Rotate=RTT|Blur=BLR|Invert=INV|"
+            "Mirror=MRR|Grayscale=GRS|Watermark=WMR|Crop=CRP|Resize=RSZ|Histogram optimizer=HST|"
+            "Frame=FRM|Binarization=BIN|Vignetting=WGN");
+        QCOMPARE(factoryNodeNames().size(), icons.size());
+        for (const auto& [name, code] : icons) {
+            QVERIFY2(factoryNodeNames().contains(name), qPrintable(name));
+            QCOMPARE_IMAGES(
+                iconForNodeName(name).toImage().convertToFormat(QImage::Format_ARGB32),
+                QImage(":/Icon_" + code + ".png").convertToFormat(QImage::Format_ARGB32));
+        }
     }
 
     // Every picture the style sheet names exists, and every button it gives a picture shows
