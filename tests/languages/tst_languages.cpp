@@ -195,30 +195,6 @@ private slots:
                  qPrintable(about));
     }
 
-    void splitPaths_data()
-    {
-        QTest::addColumn<QString>("lines");
-        QTest::addColumn<QString>("photos");
-        QTest::addColumn<QString>("flows");
-        addRow("mixed, order kept", "/p/a.jpg\n/f/1.flow\n/p/b.png\n/f/2.FLOW", "/p/a.jpg /p/b.png",
-               "/f/1.flow /f/2.FLOW");
-        addRow("flow inside a name is a photo", "/p/a.flow.jpg\n", "/p/a.flow.jpg", "");
-        addRow("empty message", "\n", "", "");
-    }
-
-    void splitPaths()
-    {
-        QFETCH(QString, lines);
-        QFETCH(QString, photos);
-        QFETCH(QString, flows);
-        const Startup::OpenRequest request = Startup::splitPaths(lines);
-        QStringList photoPaths;
-        for (const QUrl& url : request.photos)
-            photoPaths << url.toLocalFile();
-        QCOMPARE(photoPaths.join(' '), photos);
-        QCOMPARE(request.flows.join(' '), flows);
-    }
-
     void openPaths_data()
     {
         QTest::addColumn<QString>("files");
@@ -226,8 +202,9 @@ private slots:
         QTest::addColumn<QString>("nodes");
         QTest::addColumn<int>("photos");
         addRow("pelodine my.flow", "my.flow", true, "Crop Invert", 0);
-        addRow("photo and flow", "photo.png my.flow", true, "Crop Invert", 1);
-        addRow("the last readable flow wins", "my.flow other.flow gone.flow", true, "Watermark", 0);
+        // Lines ending in ".flow", in any case, are flows; the others photos.
+        addRow("photo and flow", "photo.flow.png my.flow", true, "Crop Invert", 1);
+        addRow("the last readable flow wins", "my.flow other.FLOW gone.flow", true, "Watermark", 0);
         addRow("unreadable flow opens nothing", "gone.flow", false, "", 0);
     }
 
@@ -242,9 +219,9 @@ private slots:
             dir.filePath("my.flow"), "<OperationsFlow><Operation name=\"Crop\" index=\"0\"/>"
                                      "<Operation name=\"Invert\" index=\"1\"/></OperationsFlow>");
         TestUtils::writeFile(
-            dir.filePath("other.flow"),
+            dir.filePath("other.FLOW"),
             "<OperationsFlow><Operation name=\"Watermark\" index=\"0\"/></OperationsFlow>");
-        const QString photo = TestUtils::writeImage(dir.filePath("photo.png"),
+        const QString photo = TestUtils::writeImage(dir.filePath("photo.flow.png"),
                                                     TestUtils::filledImage(4, 3, 0xff336699));
         // The program's arguments are the existing files among them, made absolute.
         QDir::setCurrent(dir.path());

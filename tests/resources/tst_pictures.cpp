@@ -10,18 +10,6 @@
 
 namespace {
 
-QImage grabButton(const QString& objectName, bool checked, bool enabled)
-{
-    QPushButton button;
-    button.setObjectName(objectName);
-    button.setFlat(true);
-    button.setCheckable(true);
-    button.setChecked(checked);
-    button.setEnabled(enabled);
-    button.resize(32, 32);
-    return button.grab().toImage().convertToFormat(QImage::Format_ARGB32);
-}
-
 // The pictures are light strokes on the dark panels.
 int lightPixels(const QImage& image)
 {
@@ -92,12 +80,22 @@ private slots:
         for (auto it = QRegularExpression(R"(QPushButton#(\w+) \{[^}]*image:)").globalMatch(sheet);
              it.hasNext(); ++count) {
             const QString name = it.next().captured(1);
-            const QImage normal = grabButton(name, false, true);
+            QPushButton button;
+            button.setObjectName(name);
+            button.setFlat(true);
+            button.setCheckable(true);
+            button.resize(32, 32);
+            const auto grab = [&button] {
+                return button.grab().toImage().convertToFormat(QImage::Format_ARGB32);
+            };
+            const QImage normal = grab();
             QVERIFY2(lightPixels(normal) > 0, qPrintable(name));
+            button.setChecked(true);
             if (sheet.contains("QPushButton#" + name + ":checked"))
-                QVERIFY2(grabButton(name, true, true) != normal, qPrintable(name));
-            QVERIFY2(lightPixels(grabButton(name, false, false)) < lightPixels(normal),
-                     qPrintable(name));
+                QVERIFY2(grab() != normal, qPrintable(name));
+            button.setChecked(false);
+            button.setEnabled(false);
+            QVERIFY2(lightPixels(grab()) < lightPixels(normal), qPrintable(name));
         }
         QVERIFY(count > 10);
     }
