@@ -1,0 +1,466 @@
+// The flow files and the flow panel: what is written, what is read back, how the user edits it.
+#include "basenode.h"
+#include "flowfile.h"
+#include "flowpanel.h"
+#include "nodecatalogue.h"
+#include "nodestabbar.h"
+#include "testutils.h"
+#include "ui/nodesoptionspanel.h"
+
+#include <QDir>
+#include <QDomDocument>
+#include <QInputDialog>
+#include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+
+using Flow = QMap<int, BaseNode*>;
+using TestUtils::readFile;
+
+namespace {
+
+// The operations of "Blur Crop@7 Invert@x:no": one per word, at its position in the list unless
+// "@index" says otherwise, with "<Active>yes" unless ":text" says otherwise.
+QByteArray operationsOf(const QString& words)
+{
+    QString text;
+    const QStringList list = words.split(' ', Qt::SkipEmptyParts);
+    for (int i = 0; i < list.size(); ++i) {
+        const QString word = list.at(i).section(':', 0, 0);
+        const QString active = list.at(i).contains(':') ? list.at(i).section(':', 1) : "yes";
+        const QString index = word.contains('@') ? word.section('@', 1) : QString::number(i);
+        text += QString(R"(<Operation name="%1" index="%2"><Parameters><Active>%3</Active>)"
+                        "</Parameters></Operation>")
+                    .arg(word.section('@', 0, 0), index, active);
+    }
+    return text.toUtf8();
+}
+
+// A flow file of those operations, then more.
+QByteArray flowOf(const QString& words, const QByteArray& more = {})
+{
+    return "<OperationsFlow>" + operationsOf(words) + more + "</OperationsFlow>";
+}
+
+// Two nodes as an older or hand-edited file may hold them: in the wrong order, indices with
+// a gap, "YES" for yes, "index" before "name".
+const char oddFlow[] = R"(<OperationsFlow><Operation index="7" name="Grayscale"><Parameters>)"
+                       "<Active>YES</Active></Parameters></Operation>"
+                       R"(<Operation name="Mirror" index="2"><Parameters><Active>no</Active>)"
+                       "<Horizontal>no</Horizontal><Vertical>yes</Vertical></Parameters>"
+                       "</Operation></OperationsFlow>";
+
+// The same flow as this program writes it.
+const char savedFlow[] = "<OperationsFlow>\n"
+                         " <Operation name=\"Mirror\" index=\"0\">\n"
+                         "  <Parameters>\n"
+                         "   <Active>no</Active>\n"
+                         "   <Horizontal>no</Horizontal>\n"
+                         "   <Vertical>yes</Vertical>\n"
+                         "  </Parameters>\n"
+                         " </Operation>\n"
+                         " <Operation name=\"Grayscale\" index=\"1\">\n"
+                         "  <Parameters>\n"
+                         "   <Active>yes</Active>\n"
+                         "  </Parameters>\n"
+                         " </Operation>\n"
+                         "</OperationsFlow>\n";
+
+// Answers the modal dialogs a slot opens, one word of the script each: the text typed into an
+// input dialog, the flow chosen in the delete dialog, "Yes" or "No" in a message box; "cancel"
+// rejects. A dialog no word fits is rejected and counted, so that no test hangs on it.
+struct DialogScript : QTimer
+{
+    explicit DialogScript(const QString& script)
+        : steps(script.split(' '))
+    {
+        connect(this, &QTimer::timeout, this, [this] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog || dialog == answered)
+                return;
+            answered = dialog;
+            const QString step = steps.isEmpty() ? "?" : steps.takeFirst();
+            auto* box = qobject_cast<QMessageBox*>(dialog);
+            auto* input = qobject_cast<QInputDialog*>(dialog);
+            auto* list = dialog->findChild<QListWidget*>();
+            const auto items =
+                list ? list->findItems(step, Qt::MatchExactly) : QList<QListWidgetItem*>();
+            QAbstractButton* button =
+                box ? box->button(step == "Yes" ? QMessageBox::Yes : QMessageBox::No) : nullptr;
+            if (button) {
+                button->click();
+            } else if (input && step != "cancel") {
+                input->setTextValue(step);
+                input->accept();
+            } else if (!items.isEmpty()) {
+                list->setCurrentItem(items.first());
+                dialog->accept();
+            } else {
+                wrong += step != "cancel";
+                dialog->reject();
+            }
+        });
+        start(5);
+    }
+
+    QStringList steps;
+    QPointer<QDialog> answered;
+    int wrong = 0;
+};
+
+// The node names in flow order; "gap" where a position is not the next of 0, 1, 2, ...
+QStringList namesOf(const Flow& flow)
+{
+    QStringList names;
+    for (auto it = flow.cbegin(); it != flow.cend(); ++it)
+        names << (it.key() == names.size() ? it.value()->name() : "gap");
+    return names;
+}
+
+QAction* menuAction(const QMenu* menu, const QString& text)
+{
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* action : actions) {
+        if (action->text() == text)
+            return action;
+    }
+    return nullptr;
+}
+
+// Presses on tab from, moves in steps as a hand does, and lets go just past tab to.
+void drag(QTabBar* bar, int from, int to)
+{
+    const QPoint start = bar->tabRect(from).center();
+    const QPoint end(bar->tabRect(to).right() + 5, start.y());
+    QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier, start);
+    for (int step = 1; step <= 10; ++step) {
+        const QPoint at = start + (end - start) * step / 10;
+        QMouseEvent move(QEvent::MouseMove, at, bar->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(bar, &move);
+    }
+    QTest::mouseRelease(bar, Qt::LeftButton, Qt::NoModifier, end);
+}
+
+} // namespace
+
+class TestFlow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void reading_data();
+    void reading();
+    void savedTextIsExact();
+    void flowFileNames();
+    void savedAndReadBack();
+    void editing_data();
+    void editing();
+    void menuDialogs_data();
+    void menuDialogs();
+
+private:
+    QMenu* flowsMenu() const { return panel->findChild<QPushButton*>("PushButton")->menu(); }
+    // A new panel, whose menus list the flows folder as it is now.
+    void renewPanel();
+    QString play(const QString& steps);
+
+    NodesOptionsPanel* options = nullptr;
+    FlowPanel* panel = nullptr;
+    NodesTabBar* bar = nullptr;
+};
+
+void TestFlow::init()
+{
+    QDir(FlowFile::flowsFolder()).removeRecursively();
+    options = new NodesOptionsPanel;
+    renewPanel();
+}
+
+void TestFlow::renewPanel()
+{
+    delete panel;
+    panel = new FlowPanel(options);
+    panel->resize(1200, 165);
+    bar = panel->findChild<NodesTabBar*>();
+}
+
+void TestFlow::cleanup()
+{
+    delete panel;
+    panel = nullptr;
+    delete options;
+}
+
+void TestFlow::reading_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("active");
+
+    using TestUtils::addRow;
+    const auto blur = [](const QByteArray& in) {
+        return flowOf("", R"(<Operation name="Blur" index="0">)" + in + "</Operation>");
+    };
+    const auto mark = [](const QByteArray& data) {
+        return flowOf("Watermark")
+            .replace("</Active>", "</Active><ImageData>" + data + "</ImageData>");
+    };
+    const auto nested = [](int depth) {
+        return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+    };
+    const QByteArray sample = readFile(":/sample.flow");
+    // Any picture a user might pick instead of a flow.
+    const QByteArray picture = readFile(":/new.png");
+    addRow("indices 5 2 9", flowOf("Blur@5 Crop@2 Invert@9"), "Crop Blur Invert");
+    addRow("negative index first", flowOf("Blur@0 Crop@-3"), "Crop Blur");
+    addRow("equal indices: the later wins", flowOf("Blur@1 Crop@0 Invert@0"), "Invert Blur");
+    addRow("index x skipped", flowOf("Blur@0 Crop@x Invert@2"), "Blur Invert");
+    addRow("missing index skipped", flowOf("Grayscale", R"(<Operation name="Crop"/>)"),
+           "Grayscale");
+    addRow("foreign root name", flowOf("Grayscale").replace("OperationsFlow", "F"), "Grayscale");
+    addRow("foreign nodes skipped",
+           flowOf("Grayscale", R"(t<!----><?p?><operation name="Blur" index="1"/>)"), "Grayscale");
+    addRow("unknown name skipped", flowOf("Blur Sharpen Crop"), "Blur Crop");
+    addRow("inactive left out", flowOf("Invert@4 Crop@1:no Grayscale@0"), "Grayscale Invert");
+    addRow("Active in other letter case", flowOf("Blur:YES Crop:true"), "Blur");
+    addRow("empty flow", QByteArray("<OperationsFlow/>\n"), "");
+    // Without a Parameters element as its first child a node keeps its defaults: active.
+    addRow("no Parameters", blur(""), "Blur");
+    addRow("text before Parameters", blur("t<Parameters><Active>no</Active></Parameters>"), "Blur");
+    addRow("not XML", QByteArray("Watermark, Resize"), "not a flow");
+    addRow("empty file", QByteArray(), "not a flow");
+    addRow("cut short", sample.left(sample.indexOf("index=\"1\"") + 40), "not a flow");
+    addRow("mismatched end tag", blur("</Parameters>"), "not a flow");
+    // Deep nesting would exhaust the stack of the recursive DOM; 100 levels is still a flow.
+    addRow("200000 nested elements", flowOf("Grayscale", nested(200000)), "not a flow");
+    addRow("100 nested in Parameters",
+           flowOf("Grayscale").replace("</Active>", "</Active>" + nested(100)), "Grayscale");
+    addRow("50 MB ImageData", mark("data:image/png;base64," + QByteArray(50 << 20, 'A')),
+           "Watermark");
+    addRow("ImageData no base64", mark("data:image/png;base64,%%%*"), "Watermark");
+    QByteArray laughs = "<!DOCTYPE x [<!ENTITY l0 \"lol\">";
+    for (int i = 1; i <= 9; ++i)
+        laughs += "<!ENTITY l" + QByteArray::number(i) + " \"" +
+                  ("&l" + QByteArray::number(i - 1) + ";").repeated(10) + "\">";
+    addRow("billion laughs", laughs + "]>" + mark("&l9;"), "not a flow");
+    addRow("external entity not read",
+           "<!DOCTYPE x [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>" + flowOf("Grayscale:&e;"),
+           "");
+    addRow("a picture", picture, "not a flow");
+    addRow("a picture after the root", flowOf("Grayscale") + picture, "not a flow");
+    addRow("NUL inside", flowOf("Grayscale", QByteArray(1, '\0')), "not a flow");
+    addRow("not UTF-8", flowOf("Grayscale", "\xff\xfe"), "Grayscale");
+}
+
+// What the batch runs from a file: the names of the active operations in flow order.
+void TestFlow::reading()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, active);
+    QString text;
+    QVERIFY(FlowFile::readFlowFile(TestUtils::writeFile(FlowFile::flowsFolder() + "in.flow", bytes),
+                                   &text));
+    bool ok = false;
+    QStringList names;
+    const BatchOperations operations = FlowFile::operationsFromText(text, &ok);
+    for (const auto& operation : operations)
+        names << operation.first;
+    // Nothing is taken from a text that does not parse.
+    QCOMPARE((ok ? "" : "not a flow") + names.join(' '), active);
+}
+
+// A typed name gets ".flow" unless it already ends so.
+void TestFlow::flowFileNames()
+{
+    for (const auto& [typed, fileName] : TestUtils::keyValues(
+             "=.flow|a=a.flow|a.flow=a.flow|a.FLOW=a.FLOW.flow|a.flow.b=a.flow.b.flow"))
+        QCOMPARE(FlowFile::flowFileName(typed), fileName);
+}
+
+// Written whole through a temporary file: a longer old file leaves no tail, a failed write
+// nothing.
+void TestFlow::savedTextIsExact()
+{
+    TestUtils::writeFile(FlowFile::flowsFolder() + "\u00e9t\u00e9.flow", QByteArray(1000, 'x'));
+    panel->loadFlow(oddFlow);
+    // The DOM orders attributes by a per-process random hash seed; a fresh seed per round lets
+    // both orders turn up, and "name" must come first every time.
+    for (int round = 0; round < 16; ++round) {
+        qSetGlobalQHashSeed(-1);
+        QVERIFY(panel->saveFlow("\u00e9t\u00e9.flow"));
+        QCOMPARE(readFile(FlowFile::flowsFolder() + "\u00e9t\u00e9.flow"), QByteArray(savedFlow));
+    }
+    QVERIFY(!panel->saveFlow("missing/x.flow"));
+    QCOMPARE(QDir(FlowFile::flowsFolder())
+                 .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{"\u00e9t\u00e9.flow"});
+}
+
+// The sample flow holds three watermarks. Saved and read back, a flow gives the operations the
+// panel holds: here the sample with a text that needs escaping, and every kind of node the
+// nodes menu offers.
+void TestFlow::savedAndReadBack()
+{
+    QVERIFY(FlowFile::installSampleFlow());
+    QCOMPARE(readFile(FlowFile::flowsFolder() + "sample.flow"), readFile(":/sample.flow"));
+    QString text;
+    QVERIFY(FlowFile::readFlowFile(":/sample.flow", &text));
+    panel->loadFlow(text.replace("Watermark1", QString("\u00dcber & <\"q\"> ]]>").toHtmlEscaped()));
+    const QList<QAction*> actions = panel->nodesMenu()->actions();
+    for (QAction* action : actions)
+        action->trigger();
+    QCOMPARE(namesOf(panel->flow()),
+             (QStringList{"Watermark", "Watermark", "Watermark"} + factoryNodeNames()));
+    BatchOperations operations;
+    QStringList sample;
+    for (BaseNode* node : panel->flow()) {
+        operations << qMakePair(node->name(), node->parametersText());
+        QDomDocument parameters;
+        QVERIFY(parameters.setContent(node->parametersText()));
+        for (const char* key : {"Text", "Position", "Size", "Italic"})
+            sample << parameters.documentElement().firstChildElement(key).text();
+    }
+    QCOMPARE(sample.mid(0, 12),
+             QString("\u00dcber & <\"q\"> "
+                     "]]>|BottomRight|39|no|Watermark2|TopLeft|67|yes|Watermark|Middle|60|no")
+                 .split('|'));
+    QVERIFY(panel->saveFlow("a.flow"));
+    QVERIFY(FlowFile::readFlowFile(FlowFile::flowsFolder() + "a.flow", &text));
+    QCOMPARE(FlowFile::operationsFromText(text), operations);
+}
+
+// Runs steps separated by "|" on the panel: "load <words for flowOf>", "load broken", "add"
+// (the + button), "select <tab>", "remove" (the - button), "menu <flows menu entry>",
+// "drag <from tab> <to tab>". Returns the flow's names, " [current tab]", then its signals in
+// order: "+<names>" for flowChanged, "-<removed>><current>" for nodeRemoved; a "!" marks a
+// signal whose flow is not the panel's, "tabs" tabs that differ from the flow, "buttons" Remove
+// or Save enabled with no node or disabled with some, "deleted" a removed node that is gone.
+QString TestFlow::play(const QString& steps)
+{
+    QStringList log;
+    QList<QPointer<BaseNode>> removed;
+    QObject guard;
+    connect(panel, &FlowPanel::flowChanged, &guard, [&](const Flow& flow) {
+        log << "+" + namesOf(flow).join(' ') + (flow == panel->flow() ? "" : "!");
+    });
+    connect(panel, &FlowPanel::nodeRemoved, &guard,
+            [&](const Flow& flow, BaseNode* node, BaseNode* current) {
+                log << "-" + node->name() + ">" + (current ? current->name() : "") +
+                           (flow == panel->flow() ? "" : "!");
+                removed << node;
+            });
+    auto* removeButton = panel->findChild<QPushButton*>("PushButtonRemove");
+    const QAction* save = menuAction(flowsMenu(), "&Save...");
+    for (const QString& step : steps.split('|')) {
+        const QString command = step.section(' ', 0, 0);
+        const QString rest = step.section(' ', 1);
+        if (command == "load")
+            panel->loadFlow(rest == "broken" ? "<OperationsFlow><Op" : flowOf(rest));
+        else if (command == "add")
+            panel->findChild<QPushButton*>("PushButtonAdd")->click();
+        else if (command == "select")
+            bar->setCurrentIndex(rest.toInt());
+        else if (command == "remove")
+            removeButton->click();
+        else if (command == "menu")
+            menuAction(flowsMenu(), rest)->trigger();
+        else if (command == "drag")
+            drag(bar, rest.section(' ', 0, 0).toInt(), rest.section(' ', 1).toInt());
+        const bool some = bar->count() > 0;
+        if (removeButton->isEnabled() != some || save->isEnabled() != some)
+            log << "buttons";
+    }
+    for (const QPointer<BaseNode>& node : qAsConst(removed)) {
+        if (!node)
+            log << "deleted";
+        delete node;
+    }
+    QStringList tabs;
+    for (int i = 0; i < bar->count(); ++i)
+        tabs << bar->tabText(i);
+    const QStringList names = namesOf(panel->flow());
+    return names.join(' ') + (tabs == names ? "" : " tabs") +
+           QString(" [%1] ").arg(bar->currentIndex()) + log.join(' ');
+}
+
+void TestFlow::editing_data()
+{
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QString>("result");
+    using TestUtils::addRow;
+    addRow("+ adds Watermark", "add|add",
+           "Watermark Watermark [1] +Watermark +Watermark Watermark");
+    addRow("load", "load Blur@5 Crop@2", "Crop Blur [1] +Crop Blur");
+    addRow("remove the last", "load Blur Crop Invert|remove",
+           "Blur Crop [1] +Blur Crop Invert -Invert>Crop");
+    addRow("remove the middle", "load Blur Crop Invert|select 1|remove",
+           "Blur Invert [1] +Blur Crop Invert -Crop>Invert");
+    addRow("remove the first", "load Blur Crop Invert|select 0|remove",
+           "Crop Invert [0] +Blur Crop Invert -Blur>Crop");
+    addRow("remove the only", "load Blur|remove", " [-1] +Blur -Blur>");
+    addRow("remove from nothing", "remove", " [-1] ");
+    addRow("Clear", "load Blur Crop Invert|select 1|menu &Clear",
+           " [-1] +Blur Crop Invert -Crop>Invert -Invert>Blur -Blur>");
+    addRow("load replaces", "load Blur|load Crop", "Crop [0] +Blur -Blur> +Crop");
+    addRow("broken text empties", "load Blur Crop|load broken",
+           " [-1] +Blur Crop -Crop>Blur -Blur>");
+    addRow("drag first past last", "load Blur Crop Invert|drag 0 2",
+           "Crop Invert Blur [2] +Blur Crop Invert +Crop Blur Invert +Crop Invert Blur");
+    addRow("load from the menu", "menu sample.flow",
+           "Watermark Watermark Watermark [2] +Watermark Watermark Watermark");
+}
+
+void TestFlow::editing()
+{
+    QFETCH(QString, steps);
+    QFETCH(QString, result);
+    QVERIFY(FlowFile::installSampleFlow());
+    renewPanel();
+    panel->show();
+    QVERIFY(QTest::qWaitForWindowExposed(panel));
+    QCOMPARE(play(steps), result);
+}
+
+void TestFlow::menuDialogs_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("content");
+    // a.flow and b.flow hold "old" before; an empty content means no file.
+    TestUtils::addRow("save", "&Save...", "c", "c.flow", QByteArray(savedFlow));
+    TestUtils::addRow("save cancelled", "&Save...", "cancel", "c.flow", QByteArray());
+    TestUtils::addRow("overwrite", "&Save...", "b Yes", "b.flow", QByteArray(savedFlow));
+    TestUtils::addRow("overwrite refused", "&Save...", "b No", "b.flow", QByteArray("old"));
+    TestUtils::addRow("delete", "&Delete...", "b.flow Yes", "b.flow", QByteArray());
+    TestUtils::addRow("delete refused", "&Delete...", "b.flow No", "b.flow", QByteArray("old"));
+    TestUtils::addRow("delete cancelled", "&Delete...", "cancel", "b.flow", QByteArray("old"));
+}
+
+void TestFlow::menuDialogs()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, script);
+    QFETCH(QString, file);
+    QFETCH(QByteArray, content);
+    TestUtils::writeFile(FlowFile::flowsFolder() + "a.flow", "old");
+    TestUtils::writeFile(FlowFile::flowsFolder() + "b.flow", "old");
+    renewPanel();
+    panel->loadFlow(oddFlow);
+    DialogScript dialogs(script);
+    menuAction(flowsMenu(), action)->trigger();
+    QVERIFY(dialogs.steps.isEmpty() && dialogs.wrong == 0);
+    QCOMPARE(QFile::exists(FlowFile::flowsFolder() + file), !content.isEmpty());
+    QCOMPARE(readFile(FlowFile::flowsFolder() + file), content);
+    QCOMPARE(readFile(FlowFile::flowsFolder() + "a.flow"), QByteArray("old"));
+    // The menu lists the flows folder as it is now.
+    QCOMPARE(menuAction(flowsMenu(), file) != nullptr, !content.isEmpty());
+}
+
+PELODINE_TEST_MAIN(TestFlow)
+#include "tst_flow.moc"
