@@ -34,11 +34,6 @@ struct MessageCount
     ~MessageCount() { qInstallMessageHandler(previous); }
 };
 
-QRgb word(const QImage& image, int x, int y)
-{
-    return reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
-}
-
 // An ARGB32 image of hex words written row by row ("1 2/3 4", w*n for n times w) times unit;
 // O is the 12345 that pixel() answers outside the image, R opaque red.
 QImage fromWords(const QString& text, QRgb unit = 1)
@@ -80,11 +75,6 @@ QImage rotateImage(const QImage& s, int angle)
                                     : angle == 180 ? QPoint(w - x, h - y)
                                                    : QPoint(w - y, x)));
     return result;
-}
-
-QImage mirrorImage(const QImage& s, bool horizontal, bool vertical)
-{
-    return s.mirrored(horizontal, vertical);
 }
 
 QImage invertImage(QImage s)
@@ -153,7 +143,7 @@ namespace {
 using Case = std::tuple<const char*, QSize, Kernel, Kernel>;
 #define RULE(n, s, ...) Case(n, s, KERNEL(OrkGraphX::__VA_ARGS__), KERNEL(Rules::__VA_ARGS__))
 
-// "Watermark" in DejaVu Sans, white on a red box, or a red 100 x 50 logo.
+// "Watermark" in DejaVu Sans on a red box, or a red 100 x 50 logo.
 WMRParams watermark(int mode, int size, int position, int xOffset = 0, int yOffset = 0)
 {
     WMRParams params;
@@ -164,7 +154,6 @@ WMRParams watermark(int mode, int size, int position, int xOffset = 0, int yOffs
     params.Position = position;
     params.XOffset = xOffset;
     params.YOffset = yOffset;
-    params.Color = Qt::white;
     params.Background = Qt::red;
     params.BackgroundEnabled = true;
     params.ImageData = TestUtils::filledImage(100, 50, 0xffff0000);
@@ -176,7 +165,7 @@ QRect redBounds(const QImage& image)
     QRect bounds;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
-            if (word(image, x, y) == 0xffff0000)
+            if (image.pixel(x, y) == 0xffff0000)
                 bounds |= QRect(x, y, 1, 1);
     return bounds;
 }
@@ -199,11 +188,10 @@ private slots:
             RULE("right 90", QSize(131, 66), rotateImage(i, 90)),
             RULE("right 90 one pixel", QSize(1, 1), rotateImage(i, 90)),
             RULE("left 90", QSize(70, 130), rotateImage(i, 270)),
-            RULE("left 90 one column", QSize(1, 4), rotateImage(i, 270)),
             RULE("180", QSize(1500, 1400), rotateImage(i, 180)),
-            RULE("180 small", QSize(7, 5), rotateImage(i, 180)),
-            RULE("mirror horizontal", QSize(37, 11), mirrorImage(i, 1, 0)),
-            RULE("mirror both", QSize(37, 11), mirrorImage(i, 1, 1)),
+            Case("mirror horizontal", {37, 11}, KERNEL(mirrorImage(i, 1, 0)),
+                 KERNEL(i.mirrored(1, 0))),
+            Case("mirror both", {37, 11}, KERNEL(mirrorImage(i, 1, 1)), KERNEL(i.mirrored(1, 1))),
             RULE("invert", QSize(97, 61), invertImage(i)),
             Case("neutral settings", {97, 61},
                  KERNEL(adjustBrightnessContrastSaturation(i, 0, 0, 1)), same),
@@ -270,7 +258,6 @@ private slots:
         // The turns read one place too far (O).
         const QString g = "1 2 3 4/5 6 7 8/9 a b c";
         addRow("right 90", KERNEL(rotateRight90(i)), g, "O 9 5/O a 6/O b 7/O c 8");
-        addRow("-270 is right 90", KERNEL(rotateImage(i, -270)), g, "O 9 5/O a 6/O b 7/O c 8");
         addRow("-180 is 180", KERNEL(rotateImage(i, -180)), g, "O*4/O c b a/O 8 7 6");
         addRow("-90 is left 90", KERNEL(rotateImage(i, -90)), g, "O O O/4 8 c/3 7 b/2 6 a");
         addRow("45 leaves the image", KERNEL(rotateImage(i, 45)), g, g);
@@ -306,7 +293,6 @@ private slots:
         addRow("swap 0 red and blue", KERNEL(swapChannels(i, 0)), "80112233", "80332211");
         addRow("swap 1 red and green", KERNEL(swapChannels(i, 1)), "80112233", "80221133");
         addRow("swap 2 green and blue", KERNEL(swapChannels(i, 2)), "80112233", "80113322");
-        addRow("swap 3 is unknown", KERNEL(swapChannels(i, 3)), "80112233", "80112233");
         addRow("binarize: equal is white", KERNEL(binarizeImage(i, 20)), "80102030", "8000ffff");
         addRow("invert", KERNEL(invertImage(i)), "80102030", "80efdfcf");
         // Hues less than 10 degrees from the source's move to (h − h1 + h2 + 359) mod 359 (hue 9
@@ -374,10 +360,10 @@ private slots:
         // of the mirror image: (720 − 540) / 9 = 20.
         QImage edge = fromWords("0*3 5a*3/0*3 5a*3/0*3 5a*3/0*3 5a*3", 0x010101);
         QImage mirror = edge.mirrored(true, false);
-        QCOMPARE(word(sharpenImage(edge), 2, 1), 0xff000000u);
-        QCOMPARE(word(sharpenImage(edge), 3, 1), 0xff282828u);
-        QCOMPARE(word(sharpenImage(mirror), 2, 1), 0xff141414u);
-        QCOMPARE(word(sharpenImage(mirror), 3, 1), 0xff000000u);
+        QCOMPARE(sharpenImage(edge).pixel(2, 1), 0xff000000u);
+        QCOMPARE(sharpenImage(edge).pixel(3, 1), 0xff282828u);
+        QCOMPARE(sharpenImage(mirror).pixel(2, 1), 0xff141414u);
+        QCOMPARE(sharpenImage(mirror).pixel(3, 1), 0xff000000u);
         for (QImage narrow : {TestUtils::filledImage(3, 10, 0), QImage()})
             QCOMPARE(sharpenImage(narrow).size(), narrow.size());
     }
@@ -390,7 +376,6 @@ private slots:
         QTest::addColumn<bool>("preview");
         QTest::addColumn<QSize>("expected"); // empty: the image comes back unchanged
         addRow("percent truncates", QSize(105, 55), 0, QSize(50, 50), false, QSize(52, 27));
-        addRow("percent ignores aspect", QSize(40, 30), 0, QSize(200, 10), true, QSize(80, 3));
         addRow("maximum keeps aspect", QSize(200, 100), 1, QSize(300, 300), false, QSize(300, 150));
         addRow("maximum skipped in preview", QSize(200, 100), 1, QSize(30, 30), true, QSize());
         // The preview caps the longer requested side at 700.
@@ -398,8 +383,6 @@ private slots:
         addRow("preview caps height", QSize(90, 60), 2, QSize(500, 1000), true, QSize(350, 700));
         addRow("preview 701 wide", QSize(90, 60), 2, QSize(701, 10), true, QSize(700, 9));
         addRow("preview 700 stays", QSize(90, 60), 2, QSize(700, 700), true, QSize(700, 700));
-        addRow("batch not capped", QSize(90, 60), 2, QSize(1000, 500), false, QSize(1000, 500));
-        addRow("unknown mode", QSize(90, 60), 3, QSize(10, 10), false, QSize());
     }
 
     void resize()
@@ -439,13 +422,11 @@ private slots:
         addRow("TopRight", watermark(0, 30, 2), box(2, 0, 0, 0));
         addRow("MiddleLeft offsets 10 10", watermark(0, 30, 3, 10, 10), box(0, 1, 10, 10));
         addRow("Middle", watermark(0, 30, 4), box(1, 1, 0, 0));
-        addRow("BottomMiddle", watermark(0, 30, 7), box(1, 2, 0, 0));
         addRow("BottomRight offsets -4 -6", watermark(0, 30, 8, -4, -6), box(2, 2, -4, -6));
         addRow("unknown 9 is TopLeft", watermark(0, 30, 9), box(0, 0, 0, 0));
         // The logo at 20 % of 1000 is 200 x 100, drawn at 204 x 104 with the margin; at 33 %
         // it is 330 x trunc(0.5 · 330) = 165 with its left at (1000 − 330) / 2 = 335.
         addRow("logo BottomRight", watermark(1, 20, 8), QRect(798, 398, 204, 104));
-        addRow("logo Middle", watermark(1, 20, 4), QRect(398, 198, 204, 104));
         addRow("logo TopMiddle 33 %", watermark(1, 33, 1), QRect(333, -2, 334, 169));
         WMRParams params = watermark(1, 5, 8, 20);
         params.Expand = true;

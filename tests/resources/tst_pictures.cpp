@@ -27,12 +27,6 @@ class TestPictures : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        qApp->setStyleSheet(OrkWidgets::App::resourceText(":/stylesheet.qss"));
-        QVERIFY(!qApp->styleSheet().isEmpty());
-    }
-
     // Qt picks name@2x.png on high-density screens; without it the small one is blown up.
     void everyPictureHasADoubleSize()
     {
@@ -70,7 +64,8 @@ private slots:
     // it, looks different when checked and is dimmer when disabled.
     void styleSheetPictures()
     {
-        const QString sheet = qApp->styleSheet();
+        const QString sheet = OrkWidgets::App::resourceText(":/stylesheet.qss");
+        qApp->setStyleSheet(sheet);
         for (auto it = QRegularExpression(R"(url\((:/[^)]+)\))").globalMatch(sheet);
              it.hasNext();) {
             const QString path = it.next().captured(1);
