@@ -1,0 +1,549 @@
+// The operation nodes as the rest of the program sees them (catalogue, parameter text, live run
+// against the batch's headless form, controls) and the options panel that runs the flow.
+#include "app.h"
+#include "basenode.h"
+#include "clrnode.h"
+#include "colorbutton.h"
+#include "commondata.h"
+#include "nodecatalogue.h"
+#include "nodesoptionspanel.h"
+#include "shsnode.h"
+#include "testutils.h"
+#include "wmrnode.h"
+
+#include <QBuffer>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPointer>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScopeGuard>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtConcurrent/QtConcurrentRun>
+
+#include <memory>
+
+namespace {
+// An opaque picture whose every pixel differs from its neighbours in all channels.
+QImage photo(int width = 48, int height = 36)
+{
+    QImage image(width, height, QImage::Format_ARGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            image.setPixel(x, y, qRgb(x * 255 / width, y * 255 / height, (x * 7 + y * 13) % 256));
+    }
+    return image;
+}
+
+// 8 x 2 pixels, the left half of one colour and the right half of another.
+QImage halves(QRgb left, QRgb right)
+{
+    QImage image = TestUtils::filledImage(8, 2, right);
+    QPainter(&image).fillRect(0, 0, 4, 2, QColor(left));
+    return image;
+}
+
+// The elements of "key=value|key=value", in order, each between the two affixes.
+QString elements(const QString& keys, const QString& before = {}, const QString& after = {})
+{
+    QString text;
+    for (const auto& key : TestUtils::keyValues(keys)) {
+        if (!key.first.isEmpty())
+            text += before + "<" + key.first + ">" + key.second + "</" + key.first + ">" + after;
+    }
+    return text;
+}
+
+// The parameter text as the nodes write it: indentation 1, one child a line.
+QString parametersText(const QString& active, const QString& keys = {})
+{
+    return "<Parameters>\n <Active>" + active + "</Active>\n" + elements(keys, " ", "\n") +
+           "</Parameters>\n";
+}
+
+// Hands a parameter text, or keys as "key=value|key=value", to the node as a flow loader does.
+void load(BaseNode* node, const QString& text)
+{
+    QDomDocument document;
+    document.setContent(text.startsWith('<') ? text
+                                             : "<Parameters>" + elements(text) + "</Parameters>");
+    node->readParameters(document.documentElement());
+}
+
+std::unique_ptr<BaseNode> newNode(const QString& name)
+{
+    return std::unique_ptr<BaseNode>(createNodeByName(name));
+}
+
+QString dataUri(const QImage& image, const char* format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return "data:image/png;base64," + QString::fromLatin1(bytes.toBase64());
+}
+
+QImage lastImage(const QSignalSpy& spy)
+{
+    return spy.last().at(0).value<QImage>();
+}
+
+// Every text the program translates comes back a quarter longer, as German and Russian
+// captions are; rich texts stay as they are. It notes the texts it is asked for.
+class LongerWords : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        const QString text = QString::fromUtf8(source);
+        asked << text;
+        const QString letters = text.toLower().remove(QRegularExpression("\\P{L}"));
+        // Before any trailing punctuation: "Size:" becomes "Sizes:".
+        const int end = text.lastIndexOf(QRegularExpression("\\p{L}")) + 1;
+        return text.startsWith('<')
+                   ? QString()
+                   : text.left(end) + letters.left((letters.size() + 3) / 4) + text.mid(end);
+    }
+    mutable QStringList asked;
+};
+} // namespace
+
+class TestNodes : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir folder;
+
+private slots:
+    void cleanup() { CommonData::instance()->previewMode = 1; }
+
+    void catalogue()
+    {
+        QCOMPARE(factoryNodeNames(),
+                 QString("RGB-Order|Brightness, Contrast, Saturation|Rotate|Blur|Invert|Mirror|"
+                         "Grayscale|Watermark|Crop|Resize|Histogram optimizer|Frame|"
+                         "Binarization|Vignetting")
+                     .split('|'));
+        // Only the exact name makes a node; the dormant nodes are never made.
+        for (const char* name : {"blur", "Blur ", "Sharpness", "Colorize", ""})
+            QVERIFY2(!createNodeByName(name), name);
+        // The dormant nodes keep their old names and store nothing but Active.
+        SHSNode sharpness;
+        CLRNode colorize;
+        QCOMPARE(sharpness.name() + colorize.name(), QString("BlurColorize"));
+        QCOMPARE(sharpness.parametersText() + colorize.parametersText(),
+                 parametersText("yes") + parametersText("yes"));
+    }
+
+    void everyNode_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("caption");
+        // Every key away from its default, so that a key the reader or the writer drops shows.
+        const QString watermark =
+            "Size=35|Text=Copyright 2026 Ünïcode|Position=TopMiddle|Expand=yes|Bold=yes|"
+            "Italic=yes|Underlined=yes|XOffset=-12|YOffset=7|Transparency=10|Color=#12ab34|"
+            "Background=#fedcba|BackgroundEnabled=yes|Font=DejaVu Sans|ImageData=" +
+            dataUri(halves(qRgb(255, 255, 0), qRgb(0, 0, 255)), "PNG") + "|ImageName=mylogo.jpg";
+        const QString none = "<H2>No options</H2>";
+        TestUtils::addRow("RGB-Order", "RGB-Order", "Mode=2", "");
+        TestUtils::addRow("BCS", "Brightness, Contrast, Saturation",
+                          "Brightness=-40|Contrast=25|Saturation=30", "");
+        TestUtils::addRow("Rotate", "Rotate", "Angle=-90", "");
+        TestUtils::addRow("Blur", "Blur", "Radius=15", "");
+        TestUtils::addRow("Invert", "Invert", "", none);
+        TestUtils::addRow("Mirror", "Mirror", "Horizontal=no|Vertical=yes", "");
+        TestUtils::addRow("Grayscale", "Grayscale", "", none);
+        TestUtils::addRow("Watermark text", "Watermark", "Mode=0|" + watermark, "");
+        TestUtils::addRow("Watermark logo", "Watermark", "Mode=1|" + watermark, "");
+        // The translations know the bottom margin by its old spelling.
+        TestUtils::addRow("Crop", "Crop", "Left=5|Right=10|Top=15|Bottom=20", "Buttom:");
+        TestUtils::addRow("Resize", "Resize", "Mode=1|Width=40|Height=20", "");
+        TestUtils::addRow("Histogram", "Histogram optimizer", "Left=10|Right=30", "");
+        TestUtils::addRow("Frame", "Frame", "Width=12|Color=#102030", "");
+        TestUtils::addRow("Binarization", "Binarization", "Threshold=200", "");
+        TestUtils::addRow("Vignetting", "Vignetting", "Radius=30|Opacity=45|Color=#ff8000", "");
+    }
+
+    void everyNode()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, keys);
+        QFETCH(QString, caption);
+        const QString text = parametersText("yes", keys);
+        const QString english = newNode(name)->parametersText();
+        // Under the program's style sheet, with every caption longer.
+        LongerWords longer;
+        qApp->installTranslator(&longer);
+        qApp->setStyleSheet(OrkWidgets::App::resourceText(":/stylesheet.qss"));
+        const auto restore = qScopeGuard([&longer] {
+            qApp->removeTranslator(&longer);
+            qApp->setStyleSheet(QString());
+        });
+        NodesOptionsPanel panel;
+        BaseNode* node = panel.createNode(name);
+        QVERIFY(node);
+        QCOMPARE(node->name(), name);
+        QVERIFY(!node->findChild<QLabel*>("NodeIconLabel")->pixmap(Qt::ReturnByValue).isNull());
+        QVERIFY(caption.isEmpty() || longer.asked.contains(caption));
+        // What a node stores, the watermark's text among it, is the same in every language.
+        QCOMPARE(node->parametersText(), english);
+
+        // Saved, opened in a fresh node and saved again, as a flow file is: the same text.
+        load(node, text);
+        QCOMPARE(node->parametersText(), text);
+        auto copy = newNode(name);
+        load(copy.get(), node->parametersText());
+        QCOMPARE(copy->parametersText(), text);
+
+        // The options fit the area the main window leaves them, and no caption is cut off.
+        panel.setFixedSize(731, 175);
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&panel));
+        QCOMPARE(panel.minimumSizeHint().boundedTo(panel.size()), panel.minimumSizeHint());
+        for (const QLabel* label : node->findChildren<QLabel*>()) {
+            const QRect shown(label->mapTo(&panel, QPoint()), label->size());
+            QVERIFY2(!label->isVisibleTo(node) ||
+                         (label->sizeHint().boundedTo(label->size()) == label->sizeHint() &&
+                          panel.rect().contains(shown)),
+                     qPrintable(label->text()));
+        }
+        // The group box's own minimum holds its title with the check box.
+        const auto* box = node->findChild<QGroupBox*>();
+        QVERIFY(box->minimumSizeHint().width() <= box->width());
+
+        // The batch runs the headless form on a thread of its own, on photos as decoded.
+        CommonData::instance()->previewMode = 0;
+        const QImage original = photo();
+        const QImage decoded = original.convertToFormat(QImage::Format_RGB888);
+        const QImage headless = QtConcurrent::run(&applyOperation, name, decoded, text).result();
+        QSignalSpy previews(node, &BaseNode::previewChanged);
+        QImage processed = original;
+        node->process(processed);
+        QVERIFY2(!TestUtils::imageDifference(processed, original).isEmpty(), "nothing changed");
+        QCOMPARE(headless.format(), processed.format());
+        QCOMPARE_IMAGES(headless, processed);
+        QCOMPARE_IMAGES(lastImage(previews), processed);
+
+        // Switched off, the node hands the photo on and previews the disabled picture.
+        node->setActive(false);
+        QCOMPARE(node->parametersText(), parametersText("no", keys));
+        processed = original;
+        node->process(processed);
+        QCOMPARE_IMAGES(processed, original);
+        QCOMPARE_IMAGES(lastImage(previews), QImage(":/DisabledNode.png"));
+    }
+
+    void everyControlReportsItsChange_data() { everyNode_data(); }
+
+    // Each change has to rerun the flow and reach the stored text; only the watermark's compact
+    // form is a view of its own, not stored.
+    void everyControlReportsItsChange()
+    {
+        QFETCH(QString, name);
+        auto node = newNode(name);
+        QSignalSpy changes(node.get(), &BaseNode::parametersChanged);
+        QString before = node->parametersText();
+        QStringList silent;
+        const auto check = [&](QObject* control, const std::function<void()>& change) {
+            change();
+            const QString text = node->parametersText();
+            if (changes.isEmpty() || (text == before && control->objectName() != "WMRShrinkButton"))
+                silent << control->metaObject()->className() + QString(" ") + control->objectName();
+            changes.clear();
+            before = text;
+        };
+        const auto flip = [](auto* control) {
+            const bool atMaximum = control->value() == control->maximum();
+            control->setValue(atMaximum ? control->minimum() : control->maximum());
+        };
+        for (QSpinBox* spin : node->findChildren<QSpinBox*>())
+            check(spin, [&] { flip(spin); });
+        for (QSlider* slider : node->findChildren<QSlider*>())
+            check(slider, [&] { flip(slider); });
+        for (QComboBox* combo : node->findChildren<QComboBox*>())
+            check(combo,
+                  [&] { combo->setCurrentIndex((combo->currentIndex() + 1) % combo->count()); });
+        for (QLineEdit* edit : node->findChildren<QLineEdit*>()) {
+            if (!edit->isReadOnly() && !qobject_cast<QAbstractSpinBox*>(edit->parent()) &&
+                !qobject_cast<QComboBox*>(edit->parent()))
+                check(edit, [&] { edit->setText(edit->text() + "!"); });
+        }
+        for (QAbstractButton* button : node->findChildren<QAbstractButton*>()) {
+            auto* colorButton = qobject_cast<OrkWidgets::ColorButton*>(button);
+            // Browsing ends in openLogoFile, which has a test of its own.
+            if (colorButton)
+                check(button, [&] { colorButton->setColor(QColor("#123456")); });
+            else if (button->objectName() != "WMRBrowseButton")
+                check(button, [&] { button->click(); });
+        }
+        // Last: switched off, the group box disables the controls inside it.
+        auto* box = node->findChild<QGroupBox*>();
+        check(box, [&] {
+            box->setChecked(false);
+            emit box->clicked(false);
+        });
+        QCOMPARE(silent.join(", "), QString());
+    }
+
+    void stored_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("loaded");
+        QTest::addColumn<QString>("clicks");
+        QTest::addColumn<QString>("stored");
+        const QString bin = "Binarization";
+        TestUtils::addRow("Active in any case", bin, "Active=no|Active=Yes", "", "Active=yes");
+        TestUtils::addRow("missing Active", bin, "Threshold=40", "", "Active=yes|Threshold=40");
+        const QString wmr = "Watermark";
+        TestUtils::addRow("offset beyond the end", wmr, "XOffset=50", "", "XOffset=33");
+        TestUtils::addRow("size below the end", wmr, "Size=0", "", "Size=1");
+        TestUtils::addRow("transparency beyond", wmr, "Transparency=101", "", "Transparency=100");
+        // Mode comes first when saved: it resets the sizes to its own range and value.
+        TestUtils::addRow("percent beyond the end", "Resize", "Mode=0|Width=5000", "",
+                          "Mode=0|Width=100|Height=50");
+        TestUtils::addRow("mode after the sizes", "Resize", "Width=1200|Height=800|Mode=2", "",
+                          "Mode=2|Width=300|Height=300");
+        TestUtils::addRow("back to percent", "Resize", "Mode=2|Width=1200|Mode=0", "",
+                          "Mode=0|Width=50|Height=50");
+        // Right and left keep their own signs; past a full turn the angle starts again at 0.
+        TestUtils::addRow("right past a full turn", "Rotate", "", "RRRR", "Angle=0");
+        TestUtils::addRow("left past a full turn", "Rotate", "", "LLLL", "Angle=0");
+        TestUtils::addRow("left is not made right", "Rotate", "", "LLLR", "Angle=-180");
+        // A new mirror flips left to right; the style sheet knows its buttons by names crossed
+        // with their keys.
+        TestUtils::addRow("MirrorHButton", "Mirror", "", "H", "Horizontal=yes|Vertical=yes");
+        TestUtils::addRow("MirrorVButton", "Mirror", "", "V", "Horizontal=no|Vertical=no");
+    }
+
+    void stored()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, loaded);
+        QFETCH(QString, clicks);
+        QFETCH(QString, stored);
+        const QHash<QChar, QString> buttons = {{'R', "RotateRightButton"},
+                                               {'L', "RotateLeftButton"},
+                                               {'H', "MirrorHButton"},
+                                               {'V', "MirrorVButton"}};
+        auto node = newNode(name);
+        load(node.get(), loaded);
+        for (const QChar click : clicks)
+            node->findChild<QPushButton*>(buttons.value(click))->click();
+        const QString text = node->parametersText();
+        QVERIFY2(text.contains(elements(stored, " ", "\n")), qPrintable(text));
+    }
+
+    void headless_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QImage>("input");
+        QTest::addColumn<QImage>("expected");
+        const QString bcs = "Brightness, Contrast, Saturation";
+        const auto keys = [](const char* keys) {
+            return "<Parameters>" + elements(keys) + "</Parameters>";
+        };
+        const auto grey = [](int l) { return halves(qRgb(l, l, l), qRgb(l, l, l)); };
+        const QImage red = halves(qRgb(255, 0, 0), qRgb(255, 0, 0));
+        const QImage redBlue = halves(qRgb(255, 0, 0), qRgb(0, 0, 255));
+        // The values start at zero, not at a new node's. Pure red has the perceived brightness
+        // sqrt(0.299) * 255 = 139.43, all that saturation 0 leaves of it.
+        TestUtils::addRow("no XML", bcs, "<<<", red, grey(139));
+        TestUtils::addRow("saturation 0, not 100", bcs, keys("Brightness=10"), red, grey(149));
+        TestUtils::addRow("saturation 50 is the factor 1", bcs, keys("Saturation=50"), red, red);
+        TestUtils::addRow("threshold 0", "Binarization", "", red, grey(255));
+        TestUtils::addRow("no angle of its own", "Rotate", keys("Angle=450"), redBlue, redBlue);
+        TestUtils::addRow("unknown operation", "Sharpness", keys("Radius=3"), redBlue, redBlue);
+        TestUtils::addRow("Horizontal is left to right", "Mirror", keys("Horizontal=yes"), redBlue,
+                          halves(qRgb(0, 0, 255), qRgb(255, 0, 0)));
+        // Half the pixels at level 50, half at 200. Clipping half of the bright end leaves the
+        // high level at 50: all turns white. Clipping half of the dark end puts the low level
+        // at 200: 50 turns black.
+        const QImage levels = halves(qRgb(50, 50, 50), qRgb(200, 200, 200));
+        TestUtils::addRow("Left clips the bright end", "Histogram optimizer", keys("Left=100"),
+                          levels, grey(255));
+        TestUtils::addRow("Right clips the dark end", "Histogram optimizer", keys("Right=100"),
+                          levels, halves(qRgb(0, 0, 0), qRgb(255, 255, 255)));
+    }
+
+    void headless()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        QFETCH(QImage, input);
+        QFETCH(QImage, expected);
+        QCOMPARE_IMAGES(applyOperation(name, input, text), expected);
+    }
+
+    // The reduced live preview skips "Maximum Pixels"; the headless form, full size, never does.
+    void resizeMaximumPixelsWaitsForFullSize()
+    {
+        const QString text = parametersText("yes", "Mode=1|Width=20|Height=20");
+        auto node = newNode("Resize");
+        load(node.get(), text);
+        QImage preview = photo(48, 36);
+        node->process(preview);
+        QCOMPARE(preview.size(), QSize(48, 36));
+        QCOMPARE(applyOperation("Resize", photo(48, 36), text).size(), QSize(20, 15));
+    }
+
+    // The font is the system's own.
+    void watermarkDefaults()
+    {
+        QCOMPARE(WMRNode().parametersText().remove(QRegularExpression(" <Font>[^<]*</Font>\n")),
+                 parametersText("yes", "Mode=0|Size=60|Text=Watermark|Position=BottomRight|"
+                                       "Expand=no|Bold=no|Italic=no|Underlined=no|XOffset=0|"
+                                       "YOffset=0|Transparency=25|Color=#ffffff|"
+                                       "Background=#000000|BackgroundEnabled=no|ImageData=|"
+                                       "ImageName=qubrast.png"));
+    }
+
+    // The kind shows its own rows; the compact form keeps only the kind and the text or logo.
+    void watermarkRows()
+    {
+        WMRNode node;
+        const auto shown = [&node] {
+            QStringList captions;
+            for (const QFormLayout* form : node.findChildren<QFormLayout*>()) {
+                for (int row = 0; row < form->rowCount(); ++row) {
+                    const auto* label =
+                        static_cast<QLabel*>(form->itemAt(row, form->LabelRole)->widget());
+                    // A caption shows exactly when something of its field does.
+                    if (label->isHidden() != form->itemAt(row, form->FieldRole)->isEmpty())
+                        captions << "half " + label->text();
+                    else if (!label->isHidden())
+                        captions << label->text();
+                }
+            }
+            return captions.join('|');
+        };
+        load(&node, "Mode=1");
+        QCOMPARE(shown(), QString("Kind:|Logo:|Size:|Transparency:|Position:|Expand:"));
+        load(&node, "Mode=0");
+        QCOMPARE(shown(), QString("Kind:|Text:|Font:|Size:|Transparency:|Position:|Text color:|"
+                                  "Background:"));
+        node.findChild<QPushButton*>("WMRShrinkButton")->click();
+        QCOMPARE(shown(), QString("Kind:|Text:"));
+        load(&node, "Mode=1");
+        QCOMPARE(shown(), QString("Kind:|Logo:"));
+    }
+
+    void logo()
+    {
+        const QString jpeg = folder.filePath("logo.jpg");
+        QVERIFY(halves(qRgb(255, 255, 0), qRgb(0, 0, 255)).save(jpeg));
+        WMRNode node;
+        QSignalSpy changes(&node, &BaseNode::parametersChanged);
+        QVERIFY(node.openLogoFile(jpeg));
+        QCOMPARE(changes.count(), 1);
+        // Stored as PNG whatever the file was, with the very pixels the file decodes to.
+        const QString text = node.parametersText();
+        const QImage decoded = QImage(jpeg).convertToFormat(QImage::Format_ARGB32);
+        QVERIFY(text.contains("<ImageData>" + dataUri(decoded, "PNG") + "</ImageData>"));
+        QVERIFY(text.contains("<ImageName>logo.jpg</ImageName>"));
+
+        // Undecodable data leaves the logo there is; the type the text declares is not trusted.
+        load(&node, "ImageData=data:image/png;base64,AAAAAAAA|ImageData=hello");
+        QCOMPARE(node.parametersText(), text);
+        const QImage bmp = halves(qRgb(1, 2, 3), qRgb(4, 5, 6));
+        load(&node, "ImageData=" + dataUri(bmp, "BMP"));
+        QVERIFY(node.parametersText().contains(dataUri(bmp, "PNG")));
+    }
+
+    // A new node stores no logo data; the headless form then draws the built-in logo.
+    void headlessBuiltInLogo()
+    {
+        const QString drawn = "<Parameters><Mode>1</Mode><Expand>yes</Expand>";
+        const QString builtIn =
+            "<ImageData>" + dataUri(QImage(":/qubrast.png"), "PNG") + "</ImageData>";
+        const QImage original = photo(96, 30);
+        const QImage expected =
+            applyOperation("Watermark", original, drawn + builtIn + "</Parameters>");
+        QVERIFY(!TestUtils::imageDifference(expected, original).isEmpty());
+        for (const char* logo : {"<ImageData/>", ""})
+            QCOMPARE_IMAGES(applyOperation("Watermark", original, drawn + logo + "</Parameters>"),
+                            expected);
+    }
+
+    // The live run works on a copy at most 360 wide (at device pixel ratio 1); only the width
+    // is compared. While the large view is open it runs at full size.
+    void previewReduction()
+    {
+        NodesOptionsPanel panel;
+        QSignalSpy images(&panel, &NodesOptionsPanel::imageChanged);
+        const auto shown = [&](int width, int height) {
+            panel.setImage(photo(width, height));
+            return lastImage(images).size();
+        };
+        QCOMPARE(shown(361, 361), QSize(360, 360));
+        QCOMPARE(shown(360, 2000), QSize(360, 2000));
+        QCOMPARE(shown(2000, 1000), QSize(360, 180));
+        // The reduced copy is kept between runs, but not across a change of the flag.
+        CommonData::instance()->previewMode = 0;
+        panel.slotParametersChanged();
+        QCOMPARE(lastImage(images).size(), QSize(2000, 1000));
+        CommonData::instance()->previewMode = 1;
+        panel.slotParametersChanged();
+        QCOMPARE(lastImage(images).size(), QSize(360, 180));
+    }
+
+    void flow()
+    {
+        NodesOptionsPanel panel;
+        auto* stack = panel.findChild<QStackedWidget*>();
+        QSignalSpy images(&panel, &NodesOptionsPanel::imageChanged);
+        QList<int> realPreviews;
+        connect(&panel, &NodesOptionsPanel::realPreview, [&] { realPreviews << images.count(); });
+        QVERIFY(!panel.createNode("watermark"));
+        QPointer<BaseNode> invert = panel.createNode("Invert");
+        BaseNode* crop = panel.createNode("Crop");
+        BaseNode* grey = panel.createNode("Grayscale");
+        QCOMPARE(stack->count(), 4);
+        QCOMPARE(stack->currentWidget(), grey);
+        load(crop, "Left=50");
+        grey->setActive(false);
+        panel.slotFlowChanged({{0, crop}, {1, grey}, {2, invert}});
+
+        // The right half, inverted; the switched-off grey node hands it on.
+        const QImage input = photo(4, 2);
+        QImage expected(2, 2, QImage::Format_ARGB32);
+        for (int y = 0; y < 2; ++y) {
+            for (int x = 0; x < 2; ++x)
+                expected.setPixel(x, y, input.pixel(x + 2, y) ^ 0x00ffffff);
+        }
+        panel.setImage(input.convertToFormat(QImage::Format_RGB888));
+        QCOMPARE(panel.sourceImage().format(), QImage::Format_ARGB32);
+        QCOMPARE_IMAGES(lastImage(images), expected);
+        QCOMPARE(realPreviews, QList<int>{images.count()});
+
+        // A removed node leaves the stack and the flow at once, and is deleted later.
+        panel.slotNodeRemoved({{0, crop}, {1, grey}}, invert, crop);
+        QCOMPARE(stack->count(), 3);
+        QCOMPARE(stack->currentWidget(), crop);
+        QCOMPARE_IMAGES(lastImage(images), input.copy(2, 0, 2, 2));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(invert.isNull());
+
+        // A changed parameter runs the flow again; only a new photo is a real preview.
+        load(crop, "Left=0");
+        QCOMPARE_IMAGES(lastImage(images), input);
+        QCOMPARE(realPreviews.size(), 1);
+    }
+};
+
+PELODINE_TEST_MAIN(TestNodes)
+#include "tst_nodes.moc"
