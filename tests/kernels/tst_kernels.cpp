@@ -303,8 +303,10 @@ private slots:
         addRow("colorize: far hue stays", redToBlue, "800000ff", "80000080");
         addRow("colorize: hue 10 stays", redToBlue, "ffff2b00", "ffff2b00");
         addRow("colorize: hue 9 moves", redToBlue, "ffff2a00", "ff2600ff");
-        addRow("colorize: modulus 359", KERNEL(colorizeImage(i, Qt::green, Qt::blue)), "ff00ff00",
-               "ff0000ff");
+        // Hue 5 towards 354: 5 + 354 + 359 = 718 is hue 0 modulo 359, where 360 would give 359.
+        addRow("colorize: modulus 359",
+               KERNEL(colorizeImage(i, Qt::red, QColor::fromHsv(354, 255, 255))), "ffff1600",
+               "ffff0000");
         addRow("colorize: saturation scaled",
                KERNEL(colorizeImage(i, half, QColor::fromHsv(0, 64, 255))), "ffff0000", "ffff8080");
         addRow("colorize: saturation capped", KERNEL(colorizeImage(i, half, Qt::red)), "ffff0000",

@@ -170,10 +170,9 @@ private slots:
 
     void helpAndAbout()
     {
-        QVERIFY(Startup::helpSlides("de").last().startsWith(":/help/de/"));
-        QVERIFY(Startup::helpSlides("ru").last().startsWith(":/help/ru/"));
+        QCOMPARE(Startup::helpSlides("de").last(), QString(":/help/de/slide11.png"));
+        QCOMPARE(Startup::helpSlides("ru").last(), QString(":/help/ru/slide11.png"));
         const QStringList slides = Startup::helpSlides("fr"); // no slides of its own
-        QCOMPARE(slides.first(), QString(":/help/en/slide1.png"));
         QCOMPARE(slides.last(), QString(":/help/en/slide11.png"));
         MainPage page;
         App::instance()->setMainWidget(&page);
