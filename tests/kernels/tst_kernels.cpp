@@ -38,22 +38,20 @@ struct MessageCount
 // O is the 12345 that pixel() answers outside the image, R opaque red.
 QImage fromWords(const QString& text, QRgb unit = 1)
 {
-    QVector<QVector<QRgb>> rows;
-    for (const QString& row : text.split('/', Qt::SkipEmptyParts)) {
-        rows.append(QVector<QRgb>());
+    QVector<QRgb> words;
+    const QStringList rows = text.split('/', Qt::SkipEmptyParts);
+    for (const QString& row : rows)
         for (const QString& item : row.split(' ')) {
             const QString w = item.section('*', 0, 0);
             const QRgb value = w == "O"   ? 12345
                                : w == "R" ? 0xffff0000
                                           : w.toUInt(nullptr, 16) * unit;
-            rows.last() +=
-                QVector<QRgb>(item.contains('*') ? item.section('*', 1).toInt() : 1, value);
+            words += QVector<QRgb>(qMax(1, item.section('*', 1).toInt()), value);
         }
-    }
-    QImage image(rows.value(0).size(), rows.size(), QImage::Format_ARGB32);
-    for (int y = 0; y < rows.size(); ++y)
-        for (int x = 0; x < rows[y].size(); ++x)
-            image.setPixel(x, y, rows[y][x]);
+    QImage image(rows.isEmpty() ? 0 : words.size() / rows.size(), rows.size(),
+                 QImage::Format_ARGB32);
+    for (int i = 0; i < words.size(); ++i)
+        image.setPixel(i % image.width(), i / image.width(), words[i]);
     return image;
 }
 
@@ -198,14 +196,12 @@ private slots:
             RULE("blur 1", QSize(64, 63), blurImage(i, 1, {0, 0, 64, 63}, false)),
             RULE("blur 5 alpha only", QSize(9, 9), blurImage(i, 5, {0, 0, 9, 9}, true)),
             RULE("blur 30 weighs 1/16", QSize(33, 17), blurImage(i, 30, {0, 0, 33, 17}, false)),
-            RULE("blur -5 keeps the pixels", QSize(7, 3), blurImage(i, -5, {0, 0, 7, 3}, false)),
             RULE("blur inner region", QSize(40, 30), blurImage(i, 3, {5, 4, 20, 11}, false)),
             RULE("blur past the edges", QSize(40, 30), blurImage(i, 7, {-10, 20, 60, 50}, false)),
             RULE("blur region backwards", QSize(40, 30),
                  blurImage(i, 2, {30, 25, -26, -22}, false)),
             RULE("blur region outside", QSize(40, 30), blurImage(i, 4, {50, 40, 10, 10}, false)),
-            RULE("vignette landscape", QSize(120, 80), vignetteImage(i, 65, 80, Qt::black)),
-            RULE("vignette portrait", QSize(80, 120), vignetteImage(i, 50, 100, Qt::darkRed)),
+            RULE("vignette landscape", QSize(120, 80), vignetteImage(i, 65, 80, Qt::darkRed)),
             RULE("vignette radius 0", QSize(77, 13), vignetteImage(i, 0, 60, Qt::black)),
             // Wider than Qt's raster chunk of 2048 and stretched beyond 100 : 1.
             RULE("vignette 2600 wide", QSize(2600, 20), vignetteImage(i, 60, 100, Qt::darkGreen)),

@@ -134,7 +134,6 @@ private slots:
         QCOMPARE(OrkWidgets::DropWidget().findChild<QLabel*>("DropWidgetCaption")->text(), caption);
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), cancel);
         QCOMPARE(displayNameForNodeName("Resize"), node);
-        QCOMPARE(displayNameForNodeName("Sharpen"), QString("Sharpen")); // not a node
         QCOMPARE(QGuiApplication::isRightToLeft(), rightToLeft);
         QCOMPARE(QSettings().value("Language").toString(), language);
     }

@@ -1,10 +1,9 @@
-// The compiled-in pictures: each node's icon and each picture of the style sheet present with a
-// double-size version for high-density screens, and the sheet's picture buttons drawn.
+// The compiled-in pictures: each node's icon and each picture the style sheet names, present
+// with a double-size version for high-density screens.
 #include "app.h"
 #include "nodecatalogue.h"
 #include "testutils.h"
 
-#include <QPushButton>
 #include <QRegularExpression>
 
 namespace {
@@ -18,16 +17,6 @@ bool hasDoubleSize(QString path)
     if (!ok)
         qWarning("%s has no picture of double size", qPrintable(path));
     return ok;
-}
-
-// The pictures are light strokes on the dark panels.
-int lightPixels(const QImage& image)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            count += qGray(image.pixel(x, y)) > 160;
-    return count;
 }
 
 } // namespace
@@ -53,36 +42,14 @@ private slots:
         }
     }
 
-    // Every button the style sheet gives a picture shows it, looks different when checked and
-    // is dimmer when disabled.
     void styleSheetPictures()
     {
         const QString sheet = OrkWidgets::App::resourceText(":/stylesheet.qss");
-        qApp->setStyleSheet(sheet);
-        for (auto it = QRegularExpression(R"(url\((:/[^)]+)\))").globalMatch(sheet); it.hasNext();)
-            QVERIFY(hasDoubleSize(it.next().captured(1)));
         int count = 0;
-        for (auto it = QRegularExpression(R"(QPushButton#(\w+) \{[^}]*image:)").globalMatch(sheet);
-             it.hasNext(); ++count) {
-            const QString name = it.next().captured(1);
-            QPushButton button;
-            button.setObjectName(name);
-            button.setFlat(true);
-            button.setCheckable(true);
-            button.resize(32, 32);
-            const auto grab = [&button] {
-                return button.grab().toImage().convertToFormat(QImage::Format_ARGB32);
-            };
-            const QImage normal = grab();
-            QVERIFY2(lightPixels(normal) > 0, qPrintable(name));
-            button.setChecked(true);
-            if (sheet.contains("QPushButton#" + name + ":checked"))
-                QVERIFY2(grab() != normal, qPrintable(name));
-            button.setChecked(false);
-            button.setEnabled(false);
-            QVERIFY2(lightPixels(grab()) < lightPixels(normal), qPrintable(name));
-        }
-        QVERIFY(count > 10);
+        for (auto it = QRegularExpression(R"(url\((:/[^)]+)\))").globalMatch(sheet); it.hasNext();
+             ++count)
+            QVERIFY(hasDoubleSize(it.next().captured(1)));
+        QVERIFY(count > 40);
     }
 };
 
