@@ -182,10 +182,10 @@ private slots:
         QTest::addColumn<QImage>("image");
         const Kernel same = KERNEL(i);
         const Case cases[] = {
-            // 1500 x 1400 is large enough for the result to live in huge-page memory.
             RULE("right 90", QSize(131, 66), rotateImage(i, 90)),
             RULE("right 90 one pixel", QSize(1, 1), rotateImage(i, 90)),
             RULE("left 90", QSize(70, 130), rotateImage(i, 270)),
+            // Large enough for the result to live in huge-page memory.
             RULE("180", QSize(1500, 1400), rotateImage(i, 180)),
             Case("mirror horizontal", {37, 11}, KERNEL(mirrorImage(i, 1, 0)),
                  KERNEL(i.mirrored(1, 0))),
@@ -254,6 +254,7 @@ private slots:
         // The turns read one place too far (O).
         const QString g = "1 2 3 4/5 6 7 8/9 a b c";
         addRow("right 90", KERNEL(rotateRight90(i)), g, "O 9 5/O a 6/O b 7/O c 8");
+        addRow("-270 is right 90", KERNEL(rotateImage(i, -270)), g, "O 9 5/O a 6/O b 7/O c 8");
         addRow("-180 is 180", KERNEL(rotateImage(i, -180)), g, "O*4/O c b a/O 8 7 6");
         addRow("-90 is left 90", KERNEL(rotateImage(i, -90)), g, "O O O/4 8 c/3 7 b/2 6 a");
         addRow("45 leaves the image", KERNEL(rotateImage(i, 45)), g, g);
