@@ -227,13 +227,12 @@ void TestBatch::stopWhilePaused()
     connect(
         worker, &BatchWorker::updateInfo, worker, [worker] { worker->setPaused(true); },
         Qt::DirectConnection);
-    QSignalSpy finished(worker, &BatchWorker::finished);
+    // The run's end quits the thread, so that a run that never ends fails the wait.
+    connect(worker, &BatchWorker::finished, &thread, &QThread::quit, Qt::DirectConnection);
     worker->prepare(OutputSettings(), out, urls(photos), {});
     thread.start();
     QTRY_VERIFY(QFile::exists(out + "p0.jpeg"));
     worker->requestStop();
-    QTRY_COMPARE(finished.count(), 1);
-    thread.quit();
     QVERIFY(thread.wait(5000));
     delete worker;
     QCOMPARE(fileNames(out), QString("p0.jpeg"));
