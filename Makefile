@@ -3,12 +3,16 @@ BUILD_DIR ?= build
 BUILD_TYPE ?= Release
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps configure build run test bench install clean
+.PHONY: all deps check-deps configure build run test bench install clean
 
 all: build
 
 deps:
 	@scripts/install-deps.sh
+
+# Fails, naming the package, when the build or the tests use a package the install step lacks.
+check-deps: deps
+	@scripts/check-deps.sh
 
 configure: deps
 	@cmake -S . -B $(BUILD_DIR) -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) >/dev/null

@@ -1,16 +1,23 @@
 #!/usr/bin/env bash
-# Installs the Debian 12 packages that building, testing and running Pelodine need.
+# Installs the Debian 12 packages that building, testing, benchmarking and running Pelodine need.
 # Quick when everything is there: only the missing packages go to apt-get.
+#   scripts/install-deps.sh          install what is missing
+#   scripts/install-deps.sh --list   print the list, one package a line (scripts/check-deps.sh)
 set -euo pipefail
 
 packages=(
     build-essential cmake pkg-config
-    qtbase5-dev qtbase5-dev-tools libqt5svg5-dev qttools5-dev-tools
+    qtbase5-dev qtbase5-dev-tools libqt5svg5-dev qttools5-dev qttools5-dev-tools
     qttranslations5-l10n qt5-image-formats-plugins
     fonts-dejavu-core
     xvfb xauth imagemagick
-    appstream desktop-file-utils
+    appstream desktop-file-utils shared-mime-info
 )
+
+if [ "${1:-}" = --list ]; then
+    printf '%s\n' "${packages[@]}"
+    exit 0
+fi
 
 missing=()
 for p in "${packages[@]}"; do
