@@ -5,35 +5,49 @@
 #include <QFileInfo>
 #include <QPainter>
 
+#include <memory>
+
 namespace TestUtils {
 
 namespace {
-QTemporaryDir* sandbox = nullptr;
-}
+// Child processes of a test find the sandbox here and share it; only the process that made it
+// removes it, at exit, with everything the test and its children left in it.
+const char sandboxVariable[] = "PELODINE_TEST_SANDBOX";
+std::unique_ptr<QTemporaryDir> ownSandbox;
+QString sandbox;
+} // namespace
 
 QString makeSandboxHome()
 {
-    if (!sandbox) {
-        sandbox = new QTemporaryDir(QDir::tempPath() + "/pelodine-test-XXXXXX");
-        const QString home = sandbox->path();
-        const char* subFolders[] = {".config", ".local/share", ".cache", "Pictures", "runtime"};
+    if (!sandbox.isEmpty())
+        return sandbox;
+    sandbox = qEnvironmentVariable(sandboxVariable);
+    if (sandbox.isEmpty()) {
+        ownSandbox = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/pelodine-test-XXXXXX");
+        sandbox = ownSandbox->path();
+        qputenv(sandboxVariable, sandbox.toLocal8Bit());
+        const char* subFolders[] = {".config",  ".local/share", ".cache",
+                                    "Pictures", "runtime",      "tmp"};
         for (const char* folder : subFolders)
-            QDir(home).mkpath(folder);
-        QFile::setPermissions(home + "/runtime", QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                                     QFileDevice::ExeOwner);
-        qputenv("HOME", home.toLocal8Bit());
-        qputenv("XDG_CONFIG_HOME", (home + "/.config").toLocal8Bit());
-        qputenv("XDG_DATA_HOME", (home + "/.local/share").toLocal8Bit());
-        qputenv("XDG_CACHE_HOME", (home + "/.cache").toLocal8Bit());
-        qputenv("XDG_RUNTIME_DIR", (home + "/runtime").toLocal8Bit());
-        qputenv("XDG_PICTURES_DIR", (home + "/Pictures").toLocal8Bit());
+            QDir(sandbox).mkpath(folder);
+        QFile::setPermissions(sandbox + "/runtime", QFileDevice::ReadOwner |
+                                                        QFileDevice::WriteOwner |
+                                                        QFileDevice::ExeOwner);
     }
-    return sandbox->path();
+    qputenv("HOME", sandbox.toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", (sandbox + "/.config").toLocal8Bit());
+    qputenv("XDG_DATA_HOME", (sandbox + "/.local/share").toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", (sandbox + "/.cache").toLocal8Bit());
+    qputenv("XDG_RUNTIME_DIR", (sandbox + "/runtime").toLocal8Bit());
+    qputenv("XDG_PICTURES_DIR", (sandbox + "/Pictures").toLocal8Bit());
+    // Temporary files of the test, its children and Qt's own go into the sandbox too.
+    qputenv("TMPDIR", (sandbox + "/tmp").toLocal8Bit());
+    return sandbox;
 }
 
 QString sandboxHome()
 {
-    return sandbox ? sandbox->path() : QString();
+    return sandbox;
 }
 
 QString imageDifference(const QImage& actual, const QImage& expected)
