@@ -1,19 +1,23 @@
 // pelodine-batch: runs a flow over photos from the command line and writes what the window's
 // batch writes for the same flow, photos and settings. Needs no display.
-#include "app.h"
+#include "appdata.h"
 #include "batchengine.h"
 #include "flowfile.h"
-#include "outputnaming.h"
+#include "flowoperations.h"
 #include "outputsettings.h"
 #include "pelodineconfig.h"
 #include "photofiles.h"
 
-#include <QApplication>
 #include <QCommandLineParser>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QTextStream>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -31,9 +35,22 @@ struct Job
     bool quiet = false;
 };
 
+// The tool's own words go to the standard error as it was at start; what the libraries
+// print there themselves (libpng's "Read Error") goes nowhere, so the terminal shows only ours.
+// A sanitizer build keeps the libraries' standard error for its reports.
 QTextStream& err()
 {
-    static QTextStream stream(stderr);
+    static QFile own;
+    static QTextStream stream(&own);
+    if (!own.isOpen()) {
+        const int ownFd = dup(STDERR_FILENO);
+        own.open(ownFd, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+#if !defined(__SANITIZE_ADDRESS__)
+        const int nowhere = open("/dev/null", O_WRONLY);
+        dup2(nowhere, STDERR_FILENO);
+        close(nowhere);
+#endif
+    }
     return stream;
 }
 
@@ -56,12 +73,12 @@ void addOptions(QCommandLineParser& parser)
          QCoreApplication::translate("main", "The flow: a .flow file, or the name of a flow in "
                                              "the flows folder (%1). Default: the built-in "
                                              "sample flow.")
-             .arg(FlowFile::flowsFolder()),
+             .arg(OrkTools::AppData::flowsFolder()),
          "FILE|NAME"},
         {"output",
          QCoreApplication::translate("main", "The folder to write into. Default: a new folder "
                                              "named by the start time under %1.")
-             .arg(OrkWidgets::App::outputBaseFolder()),
+             .arg(OrkTools::AppData::outputBaseFolder()),
          "DIR"},
         {"format",
          QCoreApplication::translate("main", "The output format; the file extension is its name "
@@ -101,7 +118,7 @@ QString readFlow(const QCommandLineParser& parser, Job& job)
     if (!FlowFile::readFlowFile(path, &text))
         return QCoreApplication::translate("main", "cannot read the flow %1").arg(path);
     bool ok = false;
-    job.operations = FlowFile::operationsFromText(text, &ok);
+    job.operations = batchOperationsFromFlow(text, &ok);
     if (!ok)
         return QCoreApplication::translate("main", "%1 is not a flow: it is not well-formed XML")
             .arg(path);
@@ -157,7 +174,7 @@ QString makeDestination(const QCommandLineParser& parser, Job& job)
 {
     job.destination = parser.isSet("output")
                           ? QDir(parser.value("output")).absolutePath() + "/"
-                          : OrkWidgets::App::outputBaseFolder() +
+                          : OrkTools::AppData::outputBaseFolder() +
                                 QDateTime::currentDateTime().toString("yyyy-MM-dd_hh-mm-ss") + "/";
     if (!QDir().mkpath(job.destination))
         return QCoreApplication::translate("main", "cannot create the folder %1")
@@ -186,27 +203,15 @@ QString parseJob(QCommandLineParser& parser, Job& job)
 
 int run(const Job& job)
 {
-    const OutputSettings& settings = job.settings;
-    BatchEngine engine(job.photos, job.operations, settings.format, settings.writerQuality());
-    const QString extension = "." + OutputNaming::extension(settings.format);
-    int oddCounter = 1;
-    int evenCounter = 2;
+    BatchEngine engine(job.photos, job.operations, job.settings, job.destination);
     QStringList failures;
     const int count = engine.count();
     for (int i = 0; i < count; ++i) {
         const QString& source = job.photos.at(i);
         if (!job.quiet)
             err() << i + 1 << " of " << count << ": " << source << Qt::endl;
-        const BatchEngine::Photo photo = engine.process(i);
-        if (photo.image.isNull()) {
-            failures << source + ": " + photo.error;
-            continue;
-        }
-        const QString name = OutputNaming::outputName(source, i, settings.rename, settings.newName,
-                                                      settings.numbers, oddCounter, evenCounter);
-        const BatchEngine::WriteResult result =
-            engine.write(photo.image, job.destination + name + extension);
-        if (!result.written)
+        const BatchEngine::Result result = engine.step(i);
+        if (!result.written())
             failures << source + ": " + result.error;
     }
     if (!job.quiet)
@@ -229,13 +234,17 @@ int run(const Job& job)
 
 int main(int argc, char* argv[])
 {
-    // The nodes need an application object with fonts, never a screen.
+    // Only this tool's own words reach the terminal: Qt's notes about the environment are not
+    // for the user, and a decoder's complaint is part of its photo's report.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    err();
+    // The watermark needs an application object with fonts, never a screen.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setOrganizationName("Qubrast");
-    QApplication::setApplicationName("Pelodine");
-    QApplication::setApplicationVersion(PELODINE_VERSION);
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setOrganizationName("Qubrast");
+    QGuiApplication::setApplicationName("Pelodine");
+    QGuiApplication::setApplicationVersion(PELODINE_VERSION);
 
     QCommandLineParser parser;
     addOptions(parser);

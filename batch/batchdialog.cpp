@@ -1,10 +1,11 @@
 #include "batchdialog.h"
 
-#include "app.h"
+#include "appdata.h"
 #include "batchthread.h"
 #include "batchworker.h"
 #include "outputsettings.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
@@ -76,7 +77,7 @@ void BatchDialog::startBatch(const BatchOperations& operations, const QList<QUrl
 {
     thread->wait();
     const OutputSettings settings = OutputSettings::load();
-    destination = OrkWidgets::App::outputBaseFolder() +
+    destination = OrkTools::AppData::outputBaseFolder() +
                   QDateTime::currentDateTime().toString("yyyy-MM-dd_hh-mm-ss") + "/";
     QDir().mkpath(destination);
     worker->prepare(settings, destination, files, operations);

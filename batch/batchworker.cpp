@@ -1,7 +1,6 @@
 #include "batchworker.h"
 
 #include "batchengine.h"
-#include "outputnaming.h"
 #include "outputsettings.h"
 
 #include <QThread>
@@ -17,14 +16,10 @@ BatchWorker::BatchWorker(QObject* parent)
 {
 }
 
-void BatchWorker::prepare(const OutputSettings& settings, const QString& destinationFolder,
+void BatchWorker::prepare(const OutputSettings& outputSettings, const QString& destinationFolder,
                           const QList<QUrl>& photos, const BatchOperations& flowOperations)
 {
-    format = settings.format;
-    quality = settings.writerQuality();
-    rename = settings.rename;
-    newName = settings.newName;
-    numbers = settings.numbers;
+    settings = outputSettings;
     destination = destinationFolder;
     files = photos;
     operations = flowOperations;
@@ -37,26 +32,21 @@ void BatchWorker::slotDoWork()
     QStringList paths;
     for (const QUrl& file : qAsConst(files))
         paths << file.toLocalFile();
-    BatchEngine engine(paths, operations, format, quality);
-    const QString extension = "." + OutputNaming::extension(format);
+    BatchEngine engine(paths, operations, settings, destination);
+    engine.setCounters(oddCounter, evenCounter);
     const int count = paths.size();
     for (int i = 0; i < count; ++i) {
         waitWhilePaused();
         if (stopRequested)
             break;
-        const BatchEngine::Photo photo = engine.process(i);
-        if (photo.image.isNull()) {
-            qWarning().noquote() << "Batch: skipped" << paths.at(i) << "-" << photo.error;
-            continue;
-        }
-        emit updateInfo(photo.image, i, count);
-        const QString name = OutputNaming::outputName(paths.at(i), i, rename, newName, numbers,
-                                                      oddCounter, evenCounter);
-        const QString target = destination + name + extension;
-        const BatchEngine::WriteResult result = engine.write(photo.image, target);
-        if (!result.written)
-            qWarning().noquote() << "Batch: cannot write" << target << "-" << result.error;
+        const BatchEngine::Result result = engine.step(i);
+        if (!result.image.isNull())
+            emit updateInfo(result.image, i, count);
+        if (!result.written())
+            qWarning().noquote() << "Batch: not written:" << paths.at(i) << "-" << result.error;
     }
+    oddCounter = engine.oddCounter();
+    evenCounter = engine.evenCounter();
     emit finished();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "batchoperations.h"
+#include "outputsettings.h"
 
 #include <QImage>
 #include <QList>
@@ -11,8 +12,6 @@
 #include <QUrl>
 
 #include <atomic>
-
-struct OutputSettings;
 
 class BatchWorker : public QObject
 {
@@ -33,7 +32,7 @@ public:
 
 signals:
     void finished();
-    // The processed photo at nCur (0-based) of nCount, before it is written.
+    // The processed photo at nCur (0-based) of nCount, once it is written (or failed to be).
     void updateInfo(const QImage& image, int nCur, int nCount);
 
 public slots:
@@ -42,11 +41,7 @@ public slots:
 private:
     void waitWhilePaused() const;
 
-    QString format = "JPEG";
-    int quality = 100;
-    bool rename = false;
-    QString newName = "NewName";
-    int numbers = 0;
+    OutputSettings settings;
     QString destination = ".";
     int oddCounter = 1;
     int evenCounter = 2;

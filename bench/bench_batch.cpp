@@ -6,13 +6,14 @@
 #include "benchsupport.h"
 #include "commondata.h"
 #include "flowfile.h"
-#include "nodecatalogue.h"
-#include "outputnaming.h"
+#include "flowoperations.h"
+#include "operationcatalogue.h"
+#include "outputsettings.h"
 #include "photofiles.h"
 
-#include <QApplication>
 #include <QBuffer>
 #include <QDir>
+#include <QGuiApplication>
 #include <QImageWriter>
 #include <QMap>
 #include <QSaveFile>
@@ -61,9 +62,9 @@ using namespace BenchSupport;
 int main(int argc, char* argv[])
 {
     useOffscreenUnlessPlatformSet();
-    QApplication app(argc, argv);
-    QApplication::setOrganizationName("Qubrast");
-    QApplication::setApplicationName("Pelodine");
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setOrganizationName("Qubrast");
+    QGuiApplication::setApplicationName("Pelodine");
     QTextStream out(stdout);
 
     const QStringList arguments = QCoreApplication::arguments();
@@ -75,7 +76,7 @@ int main(int argc, char* argv[])
     }
     const QString format = arguments.value(3, "JPEG");
     const int quality = arguments.value(4, "90").toInt();
-    const BatchOperations operations = FlowFile::operationsFromText(flow);
+    const BatchOperations operations = batchOperationsFromFlow(flow);
 
     QStringList photos;
     const QList<QUrl> found = PhotoFiles::expandFolders({QUrl::fromLocalFile(folder)});
@@ -132,13 +133,12 @@ int main(int argc, char* argv[])
 
     // The engine as the batch runs it: the next photo is read while this one is processed.
     const double engineMs = milliseconds([&] {
-        BatchEngine engine(photos, operations, format, quality);
-        const QString extension = "." + OutputNaming::extension(format);
-        for (int i = 0; i < engine.count(); ++i) {
-            const BatchEngine::Photo photo = engine.process(i);
-            engine.write(photo.image,
-                         target.path() + "/" + CommonData::displayNameOf(photos.at(i)) + extension);
-        }
+        OutputSettings settings;
+        settings.format = format;
+        settings.quality = quality;
+        BatchEngine engine(photos, operations, settings, target.path() + "/");
+        for (int i = 0; i < engine.count(); ++i)
+            engine.step(i);
     });
     out << "engine run (reading one photo ahead): " << QString::number(engineMs / 1000, 'f', 2)
         << " s, " << QString::number(1000 * photos.size() / engineMs, 'f', 2) << " photos/s"

@@ -16,8 +16,8 @@ FavoritesDeleteDlg::FavoritesDeleteDlg(QWidget* parent)
     setMinimumSize(400, 300);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
-    QPushButton* cancelButton = flatButton(tr("&Cancel"), "PushButton", this);
-    QPushButton* deleteButton = flatButton(tr("&Delete"), "DeleteButton", this);
+    QPushButton* cancelButton = OrkWidgets::newFlatButton("PushButton", this, tr("&Cancel"));
+    QPushButton* deleteButton = OrkWidgets::newFlatButton("DeleteButton", this, tr("&Delete"));
     cancelButton->setFixedHeight(32);
     deleteButton->setFixedHeight(32);
     connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);

@@ -1,9 +1,11 @@
 #include "flowpanel.h"
 
+#include "appdata.h"
 #include "basenode.h"
 #include "favoritesdeletedlg.h"
 #include "flatbutton.h"
 #include "flowfile.h"
+#include "flowtext.h"
 #include "nodecatalogue.h"
 #include "nodestabbar.h"
 #include "tablabel.h"
@@ -27,9 +29,9 @@ FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
     : QFrame(parent)
     , optionsPanel(optionsPanel)
     , tabBar(new NodesTabBar(this))
-    , addButton(flatButton("+", "PushButtonAdd", this))
-    , removeButton(flatButton("-", "PushButtonRemove", this))
-    , flowsButton(flatButton(tr("Flows"), "PushButton", this))
+    , addButton(OrkWidgets::newFlatButton("PushButtonAdd", this, "+"))
+    , removeButton(OrkWidgets::newFlatButton("PushButtonRemove", this, "-"))
+    , flowsButton(OrkWidgets::newFlatButton("PushButton", this, tr("Flows")))
     , runBatchButton(new QPushButton(tr("Save Results"), this))
     , favoritesMenu(new QMenu(this))
     , addMenu(new QMenu(this))
@@ -153,13 +155,13 @@ BaseNode* FlowPanel::addNode(const QString& name)
 void FlowPanel::loadFlow(const QString& text)
 {
     slotNewFavorite();
-    if (FlowFile::createNodes(text, [this](const QString& name) { return addNode(name); }))
+    if (FlowText::createNodes(text, [this](const QString& name) { return addNode(name); }))
         emit flowChanged(nodes);
 }
 
 bool FlowPanel::saveFlow(const QString& fileName) const
 {
-    return FlowFile::writeFlow(FlowFile::flowsFolder() + fileName, nodes);
+    return FlowText::writeFlow(OrkTools::AppData::flowsFolder() + fileName, nodes);
 }
 
 bool FlowPanel::askYesNo(const QString& question)
@@ -212,7 +214,7 @@ void FlowPanel::slotSaveFlow()
                              QMessageBox::Ok);
         return;
     }
-    if (QFile::exists(FlowFile::flowsFolder() + fileName) &&
+    if (QFile::exists(OrkTools::AppData::flowsFolder() + fileName) &&
         !askYesNo(tr("The flow the with name \"%1\" already exists.\nOverwrite?").arg(fileName)))
         return;
     saveFlow(fileName);
@@ -224,7 +226,7 @@ void FlowPanel::slotLoadFavorite()
     const auto* action = qobject_cast<QAction*>(sender());
     QString text;
     if (action &&
-        FlowFile::readFlowFile(FlowFile::flowsFolder() + action->data().toString(), &text))
+        FlowFile::readFlowFile(OrkTools::AppData::flowsFolder() + action->data().toString(), &text))
         loadFlow(text);
 }
 
@@ -235,7 +237,7 @@ void FlowPanel::slotDeleteFavorite()
     const QString name = deleteDialog->selectedName();
     if (name.isEmpty() || !askYesNo(tr("Remove the flow:\n \"%1\"?").arg(name)))
         return;
-    QFile::remove(FlowFile::flowsFolder() + name);
+    QFile::remove(OrkTools::AppData::flowsFolder() + name);
     rebuildFavoritesMenu();
 }
 
@@ -279,7 +281,7 @@ void FlowPanel::slotRunBatch()
 
 void FlowPanel::slotGotoPresetsLocation()
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(FlowFile::flowsFolder()));
+    QDesktopServices::openUrl(QUrl::fromLocalFile(OrkTools::AppData::flowsFolder()));
 }
 
 void FlowPanel::slotNodePreviewChanged(const QImage& preview)

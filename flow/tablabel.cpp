@@ -1,5 +1,6 @@
 #include "tablabel.h"
 
+#include "flatbutton.h"
 #include "previewbubble.h"
 
 #include <QPushButton>
@@ -11,14 +12,12 @@ const int buttonSize = 20;
 
 TabLabel::TabLabel(QWidget* parent)
     : QLabel(parent)
-    , previewButton(new QPushButton(this))
+    , previewButton(OrkWidgets::newFlatButton("ThumbnailPreviewButton", this, QString(),
+                                              tr("Enlarge the preview")))
 {
     setAlignment(Qt::AlignCenter);
-    previewButton->setObjectName("ThumbnailPreviewButton");
-    previewButton->setFlat(true);
     previewButton->setFixedSize(buttonSize, buttonSize);
     previewButton->setIcon(style()->standardIcon(QStyle::SP_TitleBarMaxButton));
-    previewButton->setToolTip(tr("Enlarge the preview"));
     previewButton->hide();
     connect(previewButton, &QPushButton::clicked, this, &TabLabel::slotShowPreview);
 }

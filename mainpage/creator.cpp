@@ -2,6 +2,7 @@
 
 #include "creatordroparea.h"
 #include "creatoriconsview.h"
+#include "flatbutton.h"
 #include "nodesoptionspanel.h"
 #include "photofiles.h"
 
@@ -34,11 +35,8 @@ Creator::Creator(NodesOptionsPanel* optionsPanel, QWidget* parent)
     connect(optionsPanel, &NodesOptionsPanel::realPreview, this, &Creator::realPreview);
 
     auto* title = new QLabel(tr("<H2><CENTER>Original</CENTER></H2>"), this);
-    iconViewButton = new QPushButton(this);
-    iconViewButton->setObjectName("IconViewButton");
-    iconViewButton->setToolTip(tr("Switch between the photo and the icon list"));
-    iconViewButton->setFlat(true);
-    iconViewButton->setCheckable(true);
+    iconViewButton = OrkWidgets::newToggleButton("IconViewButton", this,
+                                                 tr("Switch between the photo and the icon list"));
     iconViewButton->setChecked(true);
     connect(iconViewButton, &QPushButton::clicked, this, &Creator::slotShowModeChanged);
 

@@ -5,6 +5,7 @@
 #include "basenode.h"
 #include "creator.h"
 #include "creatordroparea.h"
+#include "flatbutton.h"
 #include "flowpanel.h"
 #include "nodesoptionspanel.h"
 #include "representor.h"
@@ -45,10 +46,8 @@ MainPage::MainPage(QWidget* parent)
 
     menuBar = new QMenuBar(this);
     menuBar->setObjectName("MenuBar");
-    settingsButton = new QPushButton(menuBar);
-    settingsButton->setObjectName("SettingsButton");
-    settingsButton->setToolTip(tr("Output settings"));
-    settingsButton->setFlat(true);
+    settingsButton =
+        OrkWidgets::newFlatButton("SettingsButton", menuBar, QString(), tr("Output settings"));
     menuBar->setCornerWidget(settingsButton, Qt::TopRightCorner);
     connect(settingsButton, &QPushButton::clicked, this, &MainPage::slotShowSettings);
     buildMenus();

@@ -1,5 +1,7 @@
 #include "photolabel.h"
 
+#include "flatbutton.h"
+
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
@@ -9,10 +11,7 @@ namespace {
 
 QPushButton* makeStepButton(const char* objectName, const QString& toolTip, QWidget* parent)
 {
-    auto* button = new QPushButton(parent);
-    button->setObjectName(objectName);
-    button->setToolTip(toolTip);
-    button->setFlat(true);
+    QPushButton* button = OrkWidgets::newFlatButton(objectName, parent, QString(), toolTip);
     button->setFixedSize(32, 48);
     button->hide();
     return button;

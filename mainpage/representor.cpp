@@ -1,5 +1,9 @@
 #include "representor.h"
 
+#include "flatbutton.h"
+#include "flowoperations.h"
+#include "flowtext.h"
+
 #include "basenode.h"
 #include "batchdialog.h"
 #include "commondata.h"
@@ -43,10 +47,8 @@ Representor::Representor(NodesOptionsPanel* optionsPanel, QWidget* parent)
     connect(imageViewDialog, &ImageViewDialog::previous, this, &Representor::previous);
 
     auto* title = new QLabel(tr("<H2><CENTER>Result</CENTER></H2>"), this);
-    auto* previewButton = new QPushButton(this);
-    previewButton->setObjectName("PreviewButton");
-    previewButton->setToolTip(tr("Show the result in full size"));
-    previewButton->setFlat(true);
+    QPushButton* previewButton = OrkWidgets::newFlatButton("PreviewButton", this, QString(),
+                                                           tr("Show the result in full size"));
     connect(previewButton, &QPushButton::clicked, this, &Representor::slotPreview);
 
     auto* header = new QHBoxLayout;
@@ -65,12 +67,7 @@ Representor::Representor(NodesOptionsPanel* optionsPanel, QWidget* parent)
 
 BatchOperations Representor::batchOperations(const QMap<int, BaseNode*>& flow)
 {
-    BatchOperations operations;
-    for (BaseNode* node : flow) {
-        if (node && node->isActive())
-            operations << qMakePair(node->name(), node->parametersText());
-    }
-    return operations;
+    return batchOperationsFromFlow(FlowText::flowText(flow));
 }
 
 void Representor::slotSetImage(const QImage& image)

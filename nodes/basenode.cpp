@@ -41,20 +41,13 @@ void BaseNode::saveParameters(QDomElement& /*parameters*/, QDomDocument /*docume
 
 void BaseNode::readParameters(const QDomElement& parameters)
 {
-    for (QDomNode child = parameters.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        const QDomElement element = child.toElement();
-        if (!element.isNull() && element.tagName() == QLatin1String("Active"))
-            activeBox->setChecked(element.text().toLower() == QLatin1String("yes"));
-    }
+    activeBox->setChecked(ParameterText::active(parameters, isActive()));
     loadParameters(parameters);
 }
 
 QDomElement BaseNode::writeParameters(QDomDocument document)
 {
-    QDomElement parameters = document.createElement("Parameters");
-    QDomElement active = document.createElement("Active");
-    active.appendChild(document.createTextNode(isActive() ? "yes" : "no"));
-    parameters.appendChild(active);
+    QDomElement parameters = ParameterText::newElement(document, isActive());
     saveParameters(parameters, document);
     return parameters;
 }
@@ -63,8 +56,7 @@ QString BaseNode::parametersText()
 {
     // A document made with a (empty) name is a real one: a default-constructed one is null.
     QDomDocument document(QStringLiteral(""));
-    document.appendChild(writeParameters(document));
-    return document.toString(1);
+    return ParameterText::documentText(document, writeParameters(document));
 }
 
 void BaseNode::updatePreview(const QImage& image)

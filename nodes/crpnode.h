@@ -3,31 +3,10 @@
 
 #include "keyednode.h"
 
-class ComboSlider;
-
-struct CRPValues
-{
-    int left = 0;
-    int right = 0;
-    int top = 0;
-    int bottom = 0;
-};
-
-class CRPNode : public KeyedNode<CRPNode, CRPValues>
+class CRPNode : public KeyedNode<CRPNode, CRPOperation>
 {
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Crop");
-
     explicit CRPNode(QWidget* parent = nullptr);
-
-    static const Keys& keys();
-    static QImage run(QImage image, const CRPValues& values);
-
-private:
-    ComboSlider* left = nullptr;
-    ComboSlider* right = nullptr;
-    ComboSlider* top = nullptr;
-    ComboSlider* bottom = nullptr;
 };

@@ -1,17 +1,12 @@
 // "Invert": the colour negative; no options.
 #pragma once
 
-#include "grsnode.h"
+#include "keyednode.h"
 
-class INVNode : public KeyedNode<INVNode, NoValues>
+class INVNode : public KeyedNode<INVNode, INVOperation>
 {
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Invert");
-
     explicit INVNode(QWidget* parent = nullptr);
-
-    static const Keys& keys();
-    static QImage run(QImage image, const NoValues& values);
 };

@@ -1,39 +1,27 @@
 #include "mrrnode.h"
 
-#include "geometric.h"
+#include "flatbutton.h"
 
 #include <QPushButton>
 
-namespace {
-QPushButton* newMirrorButton(const QString& objectName, const QString& toolTip, bool checked,
-                             BaseNode* node)
-{
-    QPushButton* button = newFlatButton(node, objectName, toolTip);
-    button->setChecked(checked);
-    QObject::connect(button, &QPushButton::clicked, node, &BaseNode::parametersChanged);
-    return button;
-}
-} // namespace
+#include <utility>
 
 MRRNode::MRRNode(QWidget* parent)
-    : KeyedNode(Name, parent)
-    , horizontalButton(newMirrorButton("MirrorVButton", tr("Mirror left to right"), true, this))
-    , verticalButton(newMirrorButton("MirrorHButton", tr("Mirror top to bottom"), false, this))
+    : KeyedNode(parent)
 {
-    setNodeIcon(Name);
-    addCentredRow(optionsLayout, {horizontalButton, verticalButton});
-}
-
-const MRRNode::Keys& MRRNode::keys()
-{
-    static const Keys table = {
-        Keys::bind("Horizontal", &MRRValues::horizontal, &MRRNode::horizontalButton),
-        Keys::bind("Vertical", &MRRValues::vertical, &MRRNode::verticalButton),
-    };
-    return table;
-}
-
-QImage MRRNode::run(QImage image, const MRRValues& values)
-{
-    return OrkGraphX::mirrorImage(image, values.horizontal, values.vertical);
+    // The object names are crossed with the keys ("MirrorVButton" holds "Horizontal"):
+    // the style sheet knows the buttons by these names.
+    const std::pair<const char*, const char*> buttons[] = {{"Horizontal", "MirrorVButton"},
+                                                           {"Vertical", "MirrorHButton"}};
+    QList<QWidget*> row;
+    for (const auto& [name, objectName] : buttons) {
+        const Param<Values>& param = key(name);
+        QPushButton* button =
+            OrkWidgets::newToggleButton(objectName, this, param.translatedCaption());
+        button->setChecked(param.uiDefault.toBool());
+        connect(button, &QPushButton::clicked, this, &BaseNode::parametersChanged);
+        bindControl(name, button);
+        row << button;
+    }
+    addCentredRow(optionsLayout, {row.at(0), row.at(1)});
 }

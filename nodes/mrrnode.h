@@ -3,29 +3,10 @@
 
 #include "keyednode.h"
 
-class QPushButton;
-
-struct MRRValues
-{
-    bool horizontal = false;
-    bool vertical = false;
-};
-
-class MRRNode : public KeyedNode<MRRNode, MRRValues>
+class MRRNode : public KeyedNode<MRRNode, MRROperation>
 {
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Mirror");
-
     explicit MRRNode(QWidget* parent = nullptr);
-
-    static const Keys& keys();
-    static QImage run(QImage image, const MRRValues& values);
-
-private:
-    // The object names are crossed with the keys ("MirrorVButton" holds "Horizontal"):
-    // the style sheet knows the buttons by these names.
-    QPushButton* horizontalButton = nullptr;
-    QPushButton* verticalButton = nullptr;
 };

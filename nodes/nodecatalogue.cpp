@@ -19,11 +19,10 @@
 
 namespace {
 
-struct Operation
+struct Factory
 {
     const char* name;
     BaseNode* (*create)(QWidget* parent);
-    QImage (*apply)(QImage image, const QString& parametersText);
 };
 
 template <typename Node> BaseNode* createNode(QWidget* parent)
@@ -31,27 +30,17 @@ template <typename Node> BaseNode* createNode(QWidget* parent)
     return new Node(parent);
 }
 
-template <typename Node> constexpr Operation operation()
+template <typename Node> constexpr Factory factory()
 {
-    return {Node::Name, &createNode<Node>, &Node::applyParameters};
+    return {Node::Name, &createNode<Node>};
 }
 
-// The factory's names in the factory's order.
-const Operation operations[] = {
-    operation<RGBNode>(), operation<BCSNode>(), operation<RTTNode>(), operation<BLRNode>(),
-    operation<INVNode>(), operation<MRRNode>(), operation<GRSNode>(), operation<WMRNode>(),
-    operation<CRPNode>(), operation<RSZNode>(), operation<HSTNode>(), operation<FRMNode>(),
-    operation<BINNode>(), operation<UCSNode>(),
+const Factory factories[] = {
+    factory<RGBNode>(), factory<BCSNode>(), factory<RTTNode>(), factory<BLRNode>(),
+    factory<INVNode>(), factory<MRRNode>(), factory<GRSNode>(), factory<WMRNode>(),
+    factory<CRPNode>(), factory<RSZNode>(), factory<HSTNode>(), factory<FRMNode>(),
+    factory<BINNode>(), factory<UCSNode>(),
 };
-
-const Operation* findOperation(const QString& name)
-{
-    for (const Operation& entry : operations) {
-        if (name == QLatin1String(entry.name))
-            return &entry;
-    }
-    return nullptr;
-}
 
 // The icon lookup tests the words in this order, each as a part of the name.
 const struct
@@ -90,20 +79,14 @@ QPixmap iconForNodeName(const QString& name)
 
 QStringList factoryNodeNames()
 {
-    QStringList names;
-    for (const Operation& entry : operations)
-        names << QLatin1String(entry.name);
-    return names;
+    return operationNames();
 }
 
 BaseNode* createNodeByName(const QString& name, QWidget* parent)
 {
-    const Operation* entry = findOperation(name);
-    return entry ? entry->create(parent) : nullptr;
-}
-
-QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText)
-{
-    const Operation* entry = findOperation(name);
-    return entry ? entry->apply(image, parametersText) : image;
+    for (const Factory& entry : factories) {
+        if (name == QLatin1String(entry.name))
+            return entry.create(parent);
+    }
+    return nullptr;
 }

@@ -1,5 +1,8 @@
-// The catalogue of operations by display name: icons, the node factory and the headless forms.
+// The catalogue of nodes by display name: icons, display names and the node factory; the
+// headless forms are in the operation catalogue.
 #pragma once
+
+#include "operationcatalogue.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -21,7 +24,3 @@ QStringList factoryNodeNames();
 
 // A new node for the exact display name, or nullptr for a name the factory does not know.
 BaseNode* createNodeByName(const QString& name, QWidget* parent = nullptr);
-
-// The named operation applied by its headless form to image with the stored parameter text,
-// with no widget involved; an unknown name returns the image unchanged. Safe on any thread.
-QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText);

@@ -70,16 +70,6 @@ OrkWidgets::ColorButton* newColorButton(BaseNode* node, const QColor& color)
     return button;
 }
 
-QPushButton* newFlatButton(QWidget* parent, const QString& objectName, const QString& toolTip)
-{
-    auto* button = new QPushButton(parent);
-    button->setObjectName(objectName);
-    button->setToolTip(toolTip);
-    button->setFlat(true);
-    button->setCheckable(true);
-    return button;
-}
-
 ComboSlider* addSliderRow(BaseNode* node, QFormLayout* form, const QString& label,
                           const SliderRange& range)
 {
@@ -98,86 +88,64 @@ OrkWidgets::ColorButton* addColorRow(BaseNode* node, QFormLayout* form, const QS
     return button;
 }
 
-void takeValue(const ComboSlider* slider, int& value)
+QVariant controlValue(ParamKind kind, const QObject* control)
 {
-    value = slider->value();
+    switch (kind) {
+    case ParamKind::Slider:
+        return static_cast<const ComboSlider*>(control)->value();
+    case ParamKind::SpinBox:
+        return static_cast<const QSpinBox*>(control)->value();
+    case ParamKind::Choice:
+        return static_cast<const QComboBox*>(control)->currentIndex();
+    case ParamKind::Toggle:
+        return static_cast<const QAbstractButton*>(control)->isChecked();
+    case ParamKind::Colour:
+        return static_cast<const OrkWidgets::ColorButton*>(control)->color();
+    case ParamKind::Text:
+        return static_cast<const QLineEdit*>(control)->text();
+    case ParamKind::Direction:
+        return int(static_cast<const DirectionsWidget*>(control)->direction());
+    case ParamKind::Font:
+        // Only the family travels: a font of that family with default size and weight.
+        return QFont(static_cast<const QFontComboBox*>(control)->currentFont().family());
+    case ParamKind::Plain:
+        break;
+    }
+    return {};
 }
 
-void giveValue(ComboSlider* slider, int value)
+void setControlValue(ParamKind kind, QObject* control, const QVariant& value)
 {
-    slider->setValue(value);
-}
-
-void takeValue(const QComboBox* combo, int& value)
-{
-    value = combo->currentIndex();
-}
-
-void giveValue(QComboBox* combo, int value)
-{
-    // An index the combo does not have clears the selection, which the kernels take as
-    // "leave the image alone", just as the headless form does with the same number.
-    combo->setCurrentIndex(value);
-}
-
-void takeValue(const QSpinBox* spinBox, int& value)
-{
-    value = spinBox->value();
-}
-
-void giveValue(QSpinBox* spinBox, int value)
-{
-    spinBox->setValue(value);
-}
-
-void takeValue(const QAbstractButton* button, bool& checked)
-{
-    checked = button->isChecked();
-}
-
-void giveValue(QAbstractButton* button, bool checked)
-{
-    button->setChecked(checked);
-}
-
-void takeValue(const OrkWidgets::ColorButton* button, QColor& color)
-{
-    color = button->color();
-}
-
-void giveValue(OrkWidgets::ColorButton* button, const QColor& color)
-{
-    button->setColor(color);
-}
-
-void takeValue(const QLineEdit* edit, QString& text)
-{
-    text = edit->text();
-}
-
-void giveValue(QLineEdit* edit, const QString& text)
-{
-    edit->setText(text);
-}
-
-void takeValue(const DirectionsWidget* directions, int& direction)
-{
-    direction = directions->direction();
-}
-
-void giveValue(DirectionsWidget* directions, int direction)
-{
-    directions->setDirection(Direction(direction));
-}
-
-void takeValue(const QFontComboBox* combo, QFont& font)
-{
-    font = QFont(combo->currentFont().family());
-}
-
-void giveValue(QFontComboBox* combo, const QFont& font)
-{
-    combo->setCurrentFont(QFont(font.family()));
+    switch (kind) {
+    case ParamKind::Slider:
+        static_cast<ComboSlider*>(control)->setValue(value.toInt());
+        break;
+    case ParamKind::SpinBox:
+        static_cast<QSpinBox*>(control)->setValue(value.toInt());
+        break;
+    case ParamKind::Choice:
+        // An index the combo does not have clears the selection, which the kernels take as
+        // "leave the image alone", just as the headless form does with the same number.
+        static_cast<QComboBox*>(control)->setCurrentIndex(value.toInt());
+        break;
+    case ParamKind::Toggle:
+        static_cast<QAbstractButton*>(control)->setChecked(value.toBool());
+        break;
+    case ParamKind::Colour:
+        static_cast<OrkWidgets::ColorButton*>(control)->setColor(value.value<QColor>());
+        break;
+    case ParamKind::Text:
+        static_cast<QLineEdit*>(control)->setText(value.toString());
+        break;
+    case ParamKind::Direction:
+        static_cast<DirectionsWidget*>(control)->setDirection(Direction(value.toInt()));
+        break;
+    case ParamKind::Font:
+        static_cast<QFontComboBox*>(control)->setCurrentFont(QFont(value.value<QFont>().family()));
+        break;
+    case ParamKind::Plain:
+        break;
+    }
 }
 
 void addNoOptionsLabel(QVBoxLayout* options)

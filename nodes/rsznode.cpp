@@ -1,52 +1,33 @@
 #include "rsznode.h"
 
 #include "commondata.h"
-#include "geometric.h"
 #include "ui/comboslider.h"
 
 #include <QComboBox>
 #include <QFormLayout>
 
-namespace {
-const SliderRange percentRange{1, 100, 1, 1, 50, "%"};
-const SliderRange pixelRange{8, 5000, 1, 1, 300, "px"};
-} // namespace
-
 RSZNode::RSZNode(QWidget* parent)
-    : KeyedNode(Name, parent)
-    , modeCombo(new QComboBox(this))
+    : KeyedNode(parent)
 {
-    setNodeIcon(Name);
+    auto* modeCombo = new QComboBox(this);
     modeCombo->addItem(tr("Percentage"), 0);
     modeCombo->addItem(tr("Maximum Pixels"), 1);
     modeCombo->addItem(tr("Pixels"), 2);
     QFormLayout* form = addFramedForm(optionsLayout);
-    form->addRow(tr("Scale by:"), modeCombo);
-    width = addSliderRow(this, form, tr("Width:"), percentRange);
-    height = addSliderRow(this, form, tr("Height:"), percentRange);
+    form->addRow(key("Mode").translatedCaption(), modeCombo);
+    width = addSliderRow(this, form, key("Width").translatedCaption(), sliderRange(key("Width")));
+    height =
+        addSliderRow(this, form, key("Height").translatedCaption(), sliderRange(key("Height")));
+    bindControl("Mode", modeCombo);
+    bindControl("Width", width);
+    bindControl("Height", height);
     connect(modeCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &RSZNode::slotComboItemChanged);
 }
 
-const RSZNode::Keys& RSZNode::keys()
+RSZNode::Values RSZNode::currentValues() const
 {
-    static const Keys table = {
-        Keys::bind("Mode", &RSZValues::mode, &RSZNode::modeCombo),
-        Keys::bind("Width", &RSZValues::width, &RSZNode::width),
-        Keys::bind("Height", &RSZValues::height, &RSZNode::height),
-    };
-    return table;
-}
-
-QImage RSZNode::run(QImage image, const RSZValues& values)
-{
-    return OrkGraphX::resizeImage(image, values.width, values.height, values.mode,
-                                  values.previewMode);
-}
-
-RSZValues RSZNode::currentValues() const
-{
-    RSZValues values = keys().values(*this);
+    Values values = KeyedNode::currentValues();
     values.previewMode = CommonData::instance()->previewMode != 0;
     return values;
 }
@@ -54,7 +35,13 @@ RSZValues RSZNode::currentValues() const
 void RSZNode::slotComboItemChanged(int index)
 {
     if (index == 0 || index == 1 || index == 2) {
-        const SliderRange& range = index == 0 ? percentRange : pixelRange;
+        plain.pixelSizes = index != 0;
+        const SliderRange range =
+            plain.pixelSizes
+                ? SliderRange(ResizeRanges::pixels.minimum, ResizeRanges::pixels.maximum,
+                              ResizeRanges::pixels.tickInterval, ResizeRanges::pixels.singleStep,
+                              ResizeRanges::pixelsDefault, "px")
+                : sliderRange(key("Width"));
         applyRange(width, range);
         applyRange(height, range);
     }

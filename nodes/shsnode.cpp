@@ -8,8 +8,8 @@ SHSNode::SHSNode(QWidget* parent)
     : BaseNode(BLRNode::Name, parent)
 {
     setNodeIcon(BLRNode::Name);
-    sharpness =
-        addSliderRow(this, addFramedForm(optionsLayout), tr("Sharpness:"), BLRNode::radiusRange);
+    sharpness = addSliderRow(this, addFramedForm(optionsLayout), tr("Sharpness:"),
+                             sliderRange(*BLROperation::table().find("Radius")));
 }
 
 void SHSNode::process(QImage& image)

@@ -3,34 +3,10 @@
 
 #include "keyednode.h"
 
-#include <QColor>
-
-class ComboSlider;
-namespace OrkWidgets {
-class ColorButton;
-}
-
-struct UCSValues
-{
-    int radius = 0;
-    int opacity = 0;
-    QColor color;
-};
-
-class UCSNode : public KeyedNode<UCSNode, UCSValues>
+class UCSNode : public KeyedNode<UCSNode, UCSOperation>
 {
     Q_OBJECT
 
 public:
-    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Vignetting");
-
     explicit UCSNode(QWidget* parent = nullptr);
-
-    static const Keys& keys();
-    static QImage run(QImage image, const UCSValues& values);
-
-private:
-    ComboSlider* radius = nullptr;
-    ComboSlider* opacity = nullptr;
-    OrkWidgets::ColorButton* colorButton = nullptr;
 };

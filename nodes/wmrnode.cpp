@@ -1,9 +1,9 @@
 #include "wmrnode.h"
 
 #include "colorbutton.h"
+#include "flatbutton.h"
 #include "ui/comboslider.h"
 #include "ui/directionswidget.h"
-#include "watermark.h"
 
 #include <QBuffer>
 #include <QCheckBox>
@@ -20,6 +20,8 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 const int textMode = 0;
 const int logoMode = 1;
@@ -31,13 +33,6 @@ const bool captionsAbove = true;
 const bool captionsBeside = false;
 const bool packed = true;
 const int fontComboLetters = 6;
-
-// Logos are kept as ARGB32 whatever file or text they came from, so that the preview and the
-// headless form draw the very same pixels.
-QImage asLogo(const QImage& picture)
-{
-    return picture.isNull() ? picture : picture.convertToFormat(QImage::Format_ARGB32);
-}
 
 // A form whose captions go above or beside its fields, appended to parent.
 QFormLayout* newForm(QBoxLayout* parent, bool above)
@@ -76,11 +71,12 @@ void collectWidgets(const QLayout* layout, QVector<QWidget*>& widgets)
     }
 }
 
-QSpinBox* newOffsetBox(const QString& prefix, const QString& toolTip, QWidget* parent)
+QSpinBox* newOffsetBox(const Param<WMRValues>& key, const QString& toolTip, QWidget* parent)
 {
     auto* box = new QSpinBox(parent);
-    box->setRange(-33, 33);
-    box->setPrefix(prefix);
+    box->setRange(key.range.minimum, key.range.maximum);
+    box->setValue(key.uiDefault.toInt());
+    box->setPrefix(key.translatedCaption());
     box->setSuffix("%");
     box->setToolTip(toolTip);
     // Only as narrow as its widest value needs; its preferred width keeps room to spare.
@@ -89,41 +85,57 @@ QSpinBox* newOffsetBox(const QString& prefix, const QString& toolTip, QWidget* p
 }
 } // namespace
 
-WMRValues::WMRValues()
-{
-    ImageData = WMRNode::builtInLogo();
-}
-
 WMRNode::WMRNode(QWidget* parent)
-    : KeyedNode(Name, parent)
+    : KeyedNode(parent)
     , kindCombo(new QComboBox(this))
-    , shrinkButton(newFlatButton(this, "WMRShrinkButton", tr("Fewer options")))
-    // A stored value, not a label: the same in every language so that flows do not depend on it.
-    , textEdit(new QLineEdit(QStringLiteral("Watermark"), this))
+    , shrinkButton(OrkWidgets::newToggleButton("WMRShrinkButton", this, tr("Fewer options")))
+    , textEdit(new QLineEdit(key("Text").uiDefault.toString(), this))
     , fontCombo(new QFontComboBox(this))
-    , boldButton(newFlatButton(this, "BoldButton", tr("Bold")))
-    , italicButton(newFlatButton(this, "ItalicButton", tr("Italic")))
-    , underlinedButton(newFlatButton(this, "UnderlinedButton", tr("Underlined")))
-    , colorButton(newColorButton(this, Qt::white))
-    , backgroundButton(newColorButton(this, Qt::black))
-    , backgroundEnabledBox(new QCheckBox(tr("Draw"), this))
-    , logoLine(new QLineEdit(BuiltInLogoName, this))
-    , browseButton(newFlatButton(this, "WMRBrowseButton", tr("Open a logo picture")))
-    , sizeSlider(newSlider(this, {1, 100, 20, 1, 60}))
-    , transparencySlider(newSlider(this, {0, 100, 20, 1, 25}))
+    , boldButton(OrkWidgets::newToggleButton("BoldButton", this, key("Bold").translatedCaption()))
+    , italicButton(
+          OrkWidgets::newToggleButton("ItalicButton", this, key("Italic").translatedCaption()))
+    , underlinedButton(OrkWidgets::newToggleButton("UnderlinedButton", this,
+                                                   key("Underlined").translatedCaption()))
+    , colorButton(newColorButton(this, key("Color").uiDefault.value<QColor>()))
+    , backgroundButton(newColorButton(this, key("Background").uiDefault.value<QColor>()))
+    , backgroundEnabledBox(new QCheckBox(key("BackgroundEnabled").translatedCaption(), this))
+    , logoLine(new QLineEdit(key("ImageName").uiDefault.toString(), this))
+    , browseButton(
+          OrkWidgets::newFlatButton("WMRBrowseButton", this, QString(), tr("Open a logo picture")))
+    , sizeSlider(newSlider(this, sliderRange(key("Size"))))
+    , transparencySlider(newSlider(this, sliderRange(key("Transparency"))))
     , directions(new DirectionsWidget(this))
-    , xOffsetBox(newOffsetBox(tr("X: "), tr("Horizontal offset in percent of the height"), this))
-    , yOffsetBox(newOffsetBox(tr("Y: "), tr("Vertical offset in percent of the height"), this))
+    , xOffsetBox(
+          newOffsetBox(key("XOffset"), tr("Horizontal offset in percent of the height"), this))
+    , yOffsetBox(newOffsetBox(key("YOffset"), tr("Vertical offset in percent of the height"), this))
     , expandBox(new QCheckBox(this))
-    , logo(builtInLogo())
 {
-    setNodeIcon(Name);
+    const std::pair<const char*, QObject*> bound[] = {
+        {"Mode", kindCombo},
+        {"Size", sizeSlider},
+        {"Text", textEdit},
+        {"Position", directions},
+        {"Expand", expandBox},
+        {"Bold", boldButton},
+        {"Italic", italicButton},
+        {"Underlined", underlinedButton},
+        {"XOffset", xOffsetBox},
+        {"YOffset", yOffsetBox},
+        {"Transparency", transparencySlider},
+        {"Color", colorButton},
+        {"Background", backgroundButton},
+        {"BackgroundEnabled", backgroundEnabledBox},
+        {"Font", fontCombo},
+        {"ImageName", logoLine},
+    };
+    for (const auto& [name, control] : bound)
+        bindControl(name, control);
+    directions->setDirection(Direction(key("Position").uiDefault.toInt()));
     kindCombo->addItem(tr("Text"));
     kindCombo->addItem(tr("Image"));
     // The widest family name on the machine would otherwise set the width of the whole node.
     fontCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     fontCombo->setMinimumContentsLength(fontComboLetters);
-    browseButton->setCheckable(false);
     logoLine->setReadOnly(true);
     backgroundEnabledBox->setToolTip(tr("Draw the background behind the text"));
 
@@ -134,27 +146,32 @@ WMRNode::WMRNode(QWidget* parent)
     columns->setSpacing(columnSpacing);
     addFramedLayout(optionsLayout, columns);
     QFormLayout* what = newForm(columns, captionsBeside);
-    addRow(what, tr("Kind:"), newRowFields({kindCombo, shrinkButton}, packed), bothModes, true);
-    addRow(what, tr("Text:"),
+    addRow(what, key("Mode").translatedCaption(), newRowFields({kindCombo, shrinkButton}, packed),
+           bothModes, true);
+    addRow(what, key("Text").translatedCaption(),
            newRowFields({textEdit, boldButton, italicButton, underlinedButton}, !packed), textMode,
            true);
-    addRow(what, tr("Font:"), fontCombo, textMode, false);
-    addRow(what, tr("Logo:"), newRowFields({logoLine, browseButton}, !packed), logoMode, true);
+    addRow(what, key("Font").translatedCaption(), fontCombo, textMode, false);
+    addRow(what, key("ImageName").translatedCaption(),
+           newRowFields({logoLine, browseButton}, !packed), logoMode, true);
     QFormLayout* strength = newForm(columns, captionsAbove);
-    addRow(strength, tr("Size:"), sizeSlider, bothModes, false);
-    addRow(strength, tr("Transparency:"), transparencySlider, bothModes, false);
+    addRow(strength, key("Size").translatedCaption(), sizeSlider, bothModes, false);
+    addRow(strength, key("Transparency").translatedCaption(), transparencySlider, bothModes, false);
     auto* where = new QVBoxLayout;
     where->setSpacing(formSpacing);
     columns->addLayout(where);
-    addRow(newForm(where, captionsBeside), tr("Position:"), newPositionFields(), bothModes, false);
+    addRow(newForm(where, captionsBeside), key("Position").translatedCaption(), newPositionFields(),
+           bothModes, false);
     auto* colours = new QHBoxLayout;
     colours->setSpacing(columnSpacing);
     where->addLayout(colours);
     where->addStretch(1);
-    addRow(newForm(colours, captionsAbove), tr("Text color:"), colorButton, textMode, false);
-    addRow(newForm(colours, captionsAbove), tr("Background:"),
+    addRow(newForm(colours, captionsAbove), key("Color").translatedCaption(), colorButton, textMode,
+           false);
+    addRow(newForm(colours, captionsAbove), key("Background").translatedCaption(),
            newRowFields({backgroundButton, backgroundEnabledBox}, packed), textMode, false);
-    addRow(newForm(colours, captionsAbove), tr("Expand:"), expandBox, logoMode, false);
+    addRow(newForm(colours, captionsAbove), key("Expand").translatedCaption(), expandBox, logoMode,
+           false);
     updateRows(textMode);
 
     connect(kindCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -172,103 +189,15 @@ WMRNode::WMRNode(QWidget* parent)
     connect(directions, &DirectionsWidget::directionChanged, this, &BaseNode::parametersChanged);
 }
 
-const WMRNode::Keys& WMRNode::keys()
-{
-    static const Keys table = {
-        Keys::bind("Mode", &WMRValues::Mode, &WMRNode::kindCombo),
-        Keys::bind("Size", &WMRValues::Size, &WMRNode::sizeSlider),
-        Keys::bind("Text", &WMRValues::Text, &WMRNode::textEdit),
-        Keys::bind(
-            "Position", &WMRValues::Position, &WMRNode::directions,
-            [](const WMRValues& values) { return directionName(values.Position); },
-            [](const QString& text, WMRValues& values) {
-                const int direction = directionFromName(text);
-                if (direction < 0)
-                    return false;
-                values.Position = direction;
-                return true;
-            }),
-        Keys::bind("Expand", &WMRValues::Expand, &WMRNode::expandBox),
-        Keys::bind("Bold", &WMRValues::Bold, &WMRNode::boldButton),
-        Keys::bind("Italic", &WMRValues::Italic, &WMRNode::italicButton),
-        Keys::bind("Underlined", &WMRValues::Underlined, &WMRNode::underlinedButton),
-        Keys::bind("XOffset", &WMRValues::XOffset, &WMRNode::xOffsetBox),
-        Keys::bind("YOffset", &WMRValues::YOffset, &WMRNode::yOffsetBox),
-        Keys::bind("Transparency", &WMRValues::Transparency, &WMRNode::transparencySlider),
-        Keys::bind("Color", &WMRValues::Color, &WMRNode::colorButton),
-        Keys::bind("Background", &WMRValues::Background, &WMRNode::backgroundButton),
-        Keys::bind("BackgroundEnabled", &WMRValues::BackgroundEnabled,
-                   &WMRNode::backgroundEnabledBox),
-        Keys::bind(
-            "Font", &WMRValues::Font, &WMRNode::fontCombo,
-            [](const WMRValues& values) { return values.Font.family(); },
-            [](const QString& text, WMRValues& values) {
-                values.Font = QFont(text);
-                return true;
-            }),
-        // The built-in logo is not copied into the text; an empty or undecodable value keeps
-        // the logo there is.
-        Keys::bind(
-            "ImageData", &WMRValues::ImageData, &WMRNode::logo,
-            [](const WMRValues& values) {
-                return values.ImageName == QLatin1String(BuiltInLogoName)
-                           ? QString()
-                           : logoDataUri(values.ImageData);
-            },
-            [](const QString& text, WMRValues& values) {
-                const QImage decoded = logoFromDataUri(text);
-                if (decoded.isNull())
-                    return false;
-                values.ImageData = decoded;
-                return true;
-            }),
-        Keys::bind("ImageName", &WMRValues::ImageName, &WMRNode::logoLine),
-    };
-    return table;
-}
-
-QImage WMRNode::run(QImage image, const WMRValues& values)
-{
-    return OrkGraphX::drawWatermark(image, values);
-}
-
-QImage WMRNode::builtInLogo()
-{
-    static const QImage picture = asLogo(QImage(":/qubrast.png"));
-    return picture;
-}
-
-QString WMRNode::logoDataUri(const QImage& logo)
-{
-    const QByteArray format = "PNG";
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    logo.save(&buffer, format);
-    return "data:image/" + QString::fromLatin1(format).toLower() + ";base64," +
-           QString::fromLatin1(bytes.toBase64());
-}
-
-QImage WMRNode::logoFromDataUri(const QString& text)
-{
-    const QLatin1String marker(";base64,");
-    const int at = text.indexOf(marker);
-    if (!text.startsWith(QLatin1String("data:")) || at < 0)
-        return QImage();
-    // The declared type is not trusted: the reader recognises the picture by its content.
-    return asLogo(
-        QImage::fromData(QByteArray::fromBase64(text.mid(at + marker.size()).toLatin1())));
-}
-
 bool WMRNode::openLogoFile(const QString& fileName)
 {
-    const QImage picture = asLogo(QImage(fileName));
+    const QImage picture = WatermarkLogo::fromPicture(QImage(fileName));
     if (picture.isNull()) {
         QMessageBox::warning(this, tr("Warning"), tr("Can not open the image file:") + fileName,
                              QMessageBox::Ok);
         return false;
     }
-    logo = picture;
+    plain.ImageData = picture;
     logoLine->setText(QFileInfo(fileName).fileName());
     emit parametersChanged();
     return true;

@@ -1,9 +1,9 @@
-// "Watermark": a text or a logo placed on the image. The logo travels inside the parameter
-// text as a data URI, so a flow never refers to the file it came from.
+// "Watermark": a text or a logo placed on the image, in three columns of controls that fit
+// the low, wide options area, and a compact form.
 #pragma once
 
 #include "keyednode.h"
-#include "wmrparams.h"
+#include "watermarkoperation.h"
 
 #include <QVector>
 
@@ -21,37 +21,14 @@ namespace OrkWidgets {
 class ColorButton;
 }
 
-// The kernel's record plus the logo's file name, which is stored but not drawn.
-struct WMRValues : OrkGraphX::WMRParams
-{
-    // Every other value starts at zero; the logo starts as the built-in one.
-    WMRValues();
-
-    QString ImageName;
-};
-
-class WMRNode : public KeyedNode<WMRNode, WMRValues>
+class WMRNode : public KeyedNode<WMRNode, WMROperation>
 {
     Q_OBJECT
 
 public:
     using WMRParams = OrkGraphX::WMRParams;
 
-    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Watermark");
-    // The "Logo:" text of the built-in logo; with it "ImageData" is stored empty.
-    static constexpr const char* BuiltInLogoName = "qubrast.png";
-
     explicit WMRNode(QWidget* parent = nullptr);
-
-    static const Keys& keys();
-    static QImage run(QImage image, const WMRValues& values);
-
-    // The built-in logo ":/qubrast.png", loaded once.
-    static QImage builtInLogo();
-    // "data:image/png;base64,..." whatever format the logo came from.
-    static QString logoDataUri(const QImage& logo);
-    // Any picture format Qt reads, behind "data:...;base64,"; a null image when it does not decode.
-    static QImage logoFromDataUri(const QString& text);
 
     // Takes the picture in fileName as the logo. When it cannot be read, a warning box says so
     // and the previous logo stays.
@@ -100,7 +77,6 @@ private:
     QSpinBox* xOffsetBox = nullptr;
     QSpinBox* yOffsetBox = nullptr;
     QCheckBox* expandBox = nullptr;
-    QImage logo;
     QVector<Row> rows;
     bool compact = false;
 };

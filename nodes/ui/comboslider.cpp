@@ -86,3 +86,13 @@ void ComboSlider::slotSpinValueChanged(int value)
     slider->setValue(value);
     emit sliderMoved(value);
 }
+
+int ComboSlider::tickInterval() const
+{
+    return slider->tickInterval();
+}
+
+int ComboSlider::singleStep() const
+{
+    return slider->singleStep();
+}

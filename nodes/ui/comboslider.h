@@ -21,7 +21,9 @@ public:
     void setValue(int value);
     int value() const;
     void setTickInterval(int interval);
+    int tickInterval() const;
     void setSingleStep(int step);
+    int singleStep() const;
     // An empty unit hides the unit label.
     void setUnit(const QString& unit);
     QString unit() const;

@@ -1,5 +1,7 @@
 #include "directionswidget.h"
 
+#include "flatbutton.h"
+
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -16,10 +18,7 @@ DirectionsWidget::DirectionsWidget(QWidget* parent)
     grid->setContentsMargins(1, 1, 1, 1);
     grid->setSpacing(0);
     for (int cell = TopLeft; cell <= BottomRight; ++cell) {
-        auto* button = new QPushButton(box);
-        button->setObjectName("DirectionButton");
-        button->setFlat(true);
-        button->setCheckable(true);
+        QPushButton* button = OrkWidgets::newToggleButton("DirectionButton", box);
         button->setFixedSize(16, 16);
         button->setToolTip(
             QCoreApplication::translate("Direction", directionName(cell).toLatin1().constData()));

@@ -72,17 +72,17 @@
 <context>
     <name>BCSNode</name>
     <message>
-        <location filename="../../nodes/bcsnode.cpp" line="+12"/>
+        <location filename="../../nodes/params/operations.cpp" line="+21"/>
         <source>Brightness:</source>
         <translation>Helligkeit:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Contrast:</source>
         <translation>Kontrast:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Saturation:</source>
         <translation>Sättigung:</translation>
     </message>
@@ -90,7 +90,7 @@
 <context>
     <name>BINNode</name>
     <message>
-        <location filename="../../nodes/binnode.cpp" line="+12"/>
+        <location line="+175"/>
         <source>Threshold:</source>
         <translation>Schwellwert:</translation>
     </message>
@@ -98,7 +98,7 @@
 <context>
     <name>BLRNode</name>
     <message>
-        <location filename="../../nodes/blrnode.cpp" line="+13"/>
+        <location line="-81"/>
         <source>Blur:</source>
         <translation>Unschärfe:</translation>
     </message>
@@ -106,7 +106,7 @@
 <context>
     <name>BaseNode</name>
     <message>
-        <location filename="../../nodes/nodecontrols.cpp" line="+185"/>
+        <location filename="../../nodes/nodecontrols.cpp" line="+153"/>
         <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Keine Optionen&lt;/H2&gt;</translation>
     </message>
@@ -114,7 +114,7 @@
 <context>
     <name>BatchDialog</name>
     <message>
-        <location filename="../../batch/batchdialog.cpp" line="+27"/>
+        <location filename="../../batch/batchdialog.cpp" line="+28"/>
         <source> Batch Process</source>
         <translation> Stapelverarbeitung</translation>
     </message>
@@ -149,7 +149,7 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/batchengine.cpp" line="+50"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+72"/>
         <source>no photo at position %1</source>
         <translation>kein Foto an Position %1</translation>
     </message>
@@ -167,6 +167,11 @@
     </message>
     <message>
         <location line="+9"/>
+        <source>damaged: %1</source>
+        <translation>beschädigt: %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>unreadable: not a photo this program can read</source>
         <translation>nicht lesbar: kein Foto, das dieses Programm lesen kann</translation>
     </message>
@@ -184,22 +189,22 @@
 <context>
     <name>CRPNode</name>
     <message>
-        <location filename="../../nodes/crpnode.cpp" line="+13"/>
+        <location filename="../../nodes/params/operations.cpp" line="-63"/>
         <source>Left:</source>
         <translation>Links:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Right:</source>
         <translation>Rechts:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Top:</source>
         <translation>Oben:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Buttom:</source>
         <translation>Unten:</translation>
     </message>
@@ -207,12 +212,12 @@
 <context>
     <name>Creator</name>
     <message>
-        <location filename="../../mainpage/creator.cpp" line="+36"/>
+        <location filename="../../mainpage/creator.cpp" line="+37"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>Switch between the photo and the icon list</source>
         <translation>Zwischen Foto und Symbolliste wechseln</translation>
     </message>
@@ -238,7 +243,7 @@
 <context>
     <name>Direction</name>
     <message>
-        <location filename="../../nodes/ui/direction.cpp" line="+9"/>
+        <location filename="../../nodes/params/direction.cpp" line="+9"/>
         <source>TopLeft</source>
         <translation>Oben links</translation>
     </message>
@@ -286,12 +291,12 @@
 <context>
     <name>FRMNode</name>
     <message>
-        <location filename="../../nodes/frmnode.cpp" line="+12"/>
+        <location filename="../../nodes/params/operations.cpp" line="+30"/>
         <source>Color:</source>
         <translation>Farbe:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-2"/>
         <source>Width:</source>
         <translation>Breite:</translation>
     </message>
@@ -317,7 +322,7 @@
 <context>
     <name>FlowPanel</name>
     <message>
-        <location filename="../../flow/flowpanel.cpp" line="+32"/>
+        <location filename="../../flow/flowpanel.cpp" line="+34"/>
         <source>Flows</source>
         <translation>Abläufe</translation>
     </message>
@@ -400,12 +405,12 @@ Overwrite?</source>
 <context>
     <name>HSTNode</name>
     <message>
-        <location filename="../../nodes/hstnode.cpp" line="+12"/>
+        <location filename="../../nodes/params/operations.cpp" line="-50"/>
         <source>Left:</source>
         <translation>Links:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Right:</source>
         <translation>Rechts:</translation>
     </message>
@@ -429,12 +434,12 @@ Overwrite?</source>
 <context>
     <name>MRRNode</name>
     <message>
-        <location filename="../../nodes/mrrnode.cpp" line="+20"/>
+        <location filename="../../nodes/params/operations.cpp" line="+142"/>
         <source>Mirror left to right</source>
         <translation>Von links nach rechts spiegeln</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Mirror top to bottom</source>
         <translation>Von oben nach unten spiegeln</translation>
     </message>
@@ -447,7 +452,7 @@ Overwrite?</source>
         <translation>Ausgabeeinstellungen</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+37"/>
         <source>&amp;Language</source>
         <translation>&amp;Sprache</translation>
     </message>
@@ -475,72 +480,72 @@ Overwrite?</source>
 <context>
     <name>NodeName</name>
     <message>
-        <location filename="../../nodes/bcsnode.h" line="+21"/>
+        <location filename="../../nodes/params/operations.h" line="+25"/>
         <source>Brightness, Contrast, Saturation</source>
         <translation>Helligkeit, Kontrast, Sättigung</translation>
     </message>
     <message>
-        <location filename="../../nodes/binnode.h" line="+18"/>
+        <location line="+145"/>
         <source>Binarization</source>
         <translation>Binarisierung</translation>
     </message>
     <message>
-        <location filename="../../nodes/blrnode.h" line="+18"/>
+        <location line="-65"/>
         <source>Blur</source>
         <translation>Weichzeichnen</translation>
     </message>
     <message>
-        <location filename="../../nodes/crpnode.h" line="+21"/>
+        <location line="-51"/>
         <source>Crop</source>
         <translation>Zuschneiden</translation>
     </message>
     <message>
-        <location filename="../../nodes/frmnode.h" line="+24"/>
+        <location line="+26"/>
         <source>Frame</source>
         <translation>Rahmen</translation>
     </message>
     <message>
-        <location filename="../../nodes/grsnode.h" line="+16"/>
+        <location line="+98"/>
         <source>Grayscale</source>
         <translation>Graustufen</translation>
     </message>
     <message>
-        <location filename="../../nodes/hstnode.h" line="+19"/>
+        <location line="-139"/>
         <source>Histogram optimizer</source>
         <translation>Histogramm-Optimierung</translation>
     </message>
     <message>
-        <location filename="../../nodes/invnode.h" line="+11"/>
+        <location line="+146"/>
         <source>Invert</source>
         <translation>Invertieren</translation>
     </message>
     <message>
-        <location filename="../../nodes/mrrnode.h" line="+19"/>
+        <location line="-27"/>
         <source>Mirror</source>
         <translation>Spiegeln</translation>
     </message>
     <message>
-        <location filename="../../nodes/rgbnode.h" line="+18"/>
+        <location line="-91"/>
         <source>RGB-Order</source>
         <translation>RGB-Reihenfolge</translation>
     </message>
     <message>
-        <location filename="../../nodes/rsznode.h" line="+23"/>
+        <location line="+71"/>
         <source>Resize</source>
         <translation>Größe ändern</translation>
     </message>
     <message>
-        <location filename="../../nodes/rttnode.h" line="+18"/>
+        <location line="-45"/>
         <source>Rotate</source>
         <translation>Drehen</translation>
     </message>
     <message>
-        <location filename="../../nodes/ucsnode.h" line="+25"/>
+        <location line="+26"/>
         <source>Vignetting</source>
         <translation>Vignettierung</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.h" line="+40"/>
+        <location filename="../../nodes/params/watermarkoperation.h" line="+19"/>
         <source>Watermark</source>
         <translation>Wasserzeichen</translation>
     </message>
@@ -548,7 +553,7 @@ Overwrite?</source>
 <context>
     <name>PhotoLabel</name>
     <message>
-        <location filename="../../mainpage/photolabel.cpp" line="+36"/>
+        <location filename="../../mainpage/photolabel.cpp" line="+35"/>
         <source>Previous photo</source>
         <translation>Vorheriges Foto</translation>
     </message>
@@ -566,7 +571,7 @@ Overwrite?</source>
 <context>
     <name>RGBNode</name>
     <message>
-        <location filename="../../nodes/rgbnode.cpp" line="+14"/>
+        <location filename="../../nodes/rgbnode.cpp" line="+10"/>
         <source>Red&lt;-&gt;Blue</source>
         <translation>Rot&lt;-&gt;Blau</translation>
     </message>
@@ -584,7 +589,7 @@ Overwrite?</source>
 <context>
     <name>RSZNode</name>
     <message>
-        <location filename="../../nodes/rsznode.cpp" line="+20"/>
+        <location filename="../../nodes/rsznode.cpp" line="+13"/>
         <source>Percentage</source>
         <translation>Prozent</translation>
     </message>
@@ -599,17 +604,17 @@ Overwrite?</source>
         <translation>Pixel</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location filename="../../nodes/params/operations.cpp" line="-32"/>
         <source>Scale by:</source>
         <translation>Skalieren nach:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+10"/>
         <source>Width:</source>
         <translation>Breite:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Height:</source>
         <translation>Höhe:</translation>
     </message>
@@ -617,7 +622,7 @@ Overwrite?</source>
 <context>
     <name>RTTNode</name>
     <message>
-        <location filename="../../nodes/rttnode.cpp" line="+14"/>
+        <location filename="../../nodes/rttnode.cpp" line="+11"/>
         <source>Rotate clockwise</source>
         <translation>Im Uhrzeigersinn drehen</translation>
     </message>
@@ -630,12 +635,12 @@ Overwrite?</source>
 <context>
     <name>Representor</name>
     <message>
-        <location filename="../../mainpage/representor.cpp" line="+45"/>
+        <location filename="../../mainpage/representor.cpp" line="+49"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Result&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Ergebnis&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>Show the result in full size</source>
         <translation>Ergebnis in voller Größe zeigen</translation>
     </message>
@@ -643,7 +648,7 @@ Overwrite?</source>
 <context>
     <name>SHSNode</name>
     <message>
-        <location filename="../../nodes/shsnode.cpp" line="+12"/>
+        <location filename="../../nodes/shsnode.cpp" line="+11"/>
         <source>Sharpness:</source>
         <translation>Schärfe:</translation>
     </message>
@@ -651,7 +656,7 @@ Overwrite?</source>
 <context>
     <name>TabLabel</name>
     <message>
-        <location filename="../../flow/tablabel.cpp" line="+21"/>
+        <location filename="../../flow/tablabel.cpp" line="+16"/>
         <source>Enlarge the preview</source>
         <translation>Vorschau vergrößern</translation>
     </message>
@@ -659,17 +664,17 @@ Overwrite?</source>
 <context>
     <name>UCSNode</name>
     <message>
-        <location filename="../../nodes/ucsnode.cpp" line="+12"/>
+        <location filename="../../nodes/params/operations.cpp" line="-33"/>
         <source>Radius:</source>
         <translation>Radius:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Opacity:</source>
         <translation>Deckkraft:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Color:</source>
         <translation>Farbe:</translation>
     </message>
@@ -677,57 +682,57 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+100"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+91"/>
         <source>Fewer options</source>
         <translation>Weniger Optionen</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+47"/>
         <source>Bold</source>
         <translation>Fett</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Italic</source>
         <translation>Kursiv</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Underlined</source>
         <translation>Unterstrichen</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+12"/>
         <source>Draw</source>
         <translation>Zeichnen</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+13"/>
         <source>Open a logo picture</source>
         <translation>Logobild öffnen</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="-10"/>
         <source>X: </source>
         <translation>X: </translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+5"/>
         <source>Horizontal offset in percent of the height</source>
         <translation>Waagrechter Versatz in Prozent der Höhe</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+2"/>
         <source>Y: </source>
         <translation>Y: </translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+1"/>
         <source>Vertical offset in percent of the height</source>
         <translation>Senkrechter Versatz in Prozent der Höhe</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+24"/>
         <source>Text</source>
         <translation>Text</translation>
     </message>
@@ -737,62 +742,62 @@ Overwrite?</source>
         <translation>Bild</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>Draw the background behind the text</source>
         <translation>Hintergrund hinter dem Text zeichnen</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="-20"/>
         <source>Kind:</source>
         <translation>Art:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+6"/>
         <source>Text:</source>
         <translation>Text:</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+24"/>
         <source>Font:</source>
         <translation>Schrift:</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="-6"/>
         <source>Text color:</source>
         <translation>Textfarbe:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Background:</source>
         <translation>Hintergrund:</translation>
     </message>
     <message>
-        <location line="-13"/>
+        <location line="+8"/>
         <source>Logo:</source>
         <translation>Logo:</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="-32"/>
         <source>Size:</source>
         <translation>Größe:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+20"/>
         <source>Transparency:</source>
         <translation>Transparenz:</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="-14"/>
         <source>Position:</source>
         <translation>Position:</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+2"/>
         <source>Expand:</source>
         <translation>Strecken:</translation>
     </message>
     <message>
-        <location line="+110"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+56"/>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
@@ -913,7 +918,7 @@ Ein Quellfoto wird nie überschrieben.</translation>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="+50"/>
+        <location line="+38"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>%1 von %2 Fotos nach %3 geschrieben</translation>
     </message>

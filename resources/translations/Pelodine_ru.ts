@@ -72,17 +72,17 @@
 <context>
     <name>BCSNode</name>
     <message>
-        <location filename="../../nodes/bcsnode.cpp" line="+12"/>
+        <location filename="../../nodes/params/operations.cpp" line="+21"/>
         <source>Brightness:</source>
         <translation>Яркость:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Contrast:</source>
         <translation>Контраст:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Saturation:</source>
         <translation>Насыщенность:</translation>
     </message>
@@ -90,7 +90,7 @@
 <context>
     <name>BINNode</name>
     <message>
-        <location filename="../../nodes/binnode.cpp" line="+12"/>
+        <location line="+175"/>
         <source>Threshold:</source>
         <translation>Порог:</translation>
     </message>
@@ -98,7 +98,7 @@
 <context>
     <name>BLRNode</name>
     <message>
-        <location filename="../../nodes/blrnode.cpp" line="+13"/>
+        <location line="-81"/>
         <source>Blur:</source>
         <translation>Размытие:</translation>
     </message>
@@ -106,7 +106,7 @@
 <context>
     <name>BaseNode</name>
     <message>
-        <location filename="../../nodes/nodecontrols.cpp" line="+185"/>
+        <location filename="../../nodes/nodecontrols.cpp" line="+153"/>
         <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Нет параметров&lt;/H2&gt;</translation>
     </message>
@@ -114,7 +114,7 @@
 <context>
     <name>BatchDialog</name>
     <message>
-        <location filename="../../batch/batchdialog.cpp" line="+27"/>
+        <location filename="../../batch/batchdialog.cpp" line="+28"/>
         <source> Batch Process</source>
         <translation> Пакетная обработка</translation>
     </message>
@@ -149,7 +149,7 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/batchengine.cpp" line="+50"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+72"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
@@ -167,6 +167,11 @@
     </message>
     <message>
         <location line="+9"/>
+        <source>damaged: %1</source>
+        <translation>повреждён: %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>unreadable: not a photo this program can read</source>
         <translation>не читается: это не фото, которое может прочитать программа</translation>
     </message>
@@ -184,22 +189,22 @@
 <context>
     <name>CRPNode</name>
     <message>
-        <location filename="../../nodes/crpnode.cpp" line="+13"/>
+        <location filename="../../nodes/params/operations.cpp" line="-63"/>
         <source>Left:</source>
         <translation>Слева:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Right:</source>
         <translation>Справа:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Top:</source>
         <translation>Сверху:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Buttom:</source>
         <translation>Снизу:</translation>
     </message>
@@ -207,12 +212,12 @@
 <context>
     <name>Creator</name>
     <message>
-        <location filename="../../mainpage/creator.cpp" line="+36"/>
+        <location filename="../../mainpage/creator.cpp" line="+37"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Оригинал&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>Switch between the photo and the icon list</source>
         <translation>Переключение между фото и списком значков</translation>
     </message>
@@ -238,7 +243,7 @@
 <context>
     <name>Direction</name>
     <message>
-        <location filename="../../nodes/ui/direction.cpp" line="+9"/>
+        <location filename="../../nodes/params/direction.cpp" line="+9"/>
         <source>TopLeft</source>
         <translation>Вверху слева</translation>
     </message>
@@ -286,12 +291,12 @@
 <context>
     <name>FRMNode</name>
     <message>
-        <location filename="../../nodes/frmnode.cpp" line="+12"/>
+        <location filename="../../nodes/params/operations.cpp" line="+30"/>
         <source>Color:</source>
         <translation>Цвет:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-2"/>
         <source>Width:</source>
         <translation>Ширина:</translation>
     </message>
@@ -317,7 +322,7 @@
 <context>
     <name>FlowPanel</name>
     <message>
-        <location filename="../../flow/flowpanel.cpp" line="+32"/>
+        <location filename="../../flow/flowpanel.cpp" line="+34"/>
         <source>Flows</source>
         <translation>Сценарии</translation>
     </message>
@@ -400,12 +405,12 @@ Overwrite?</source>
 <context>
     <name>HSTNode</name>
     <message>
-        <location filename="../../nodes/hstnode.cpp" line="+12"/>
+        <location filename="../../nodes/params/operations.cpp" line="-50"/>
         <source>Left:</source>
         <translation>Слева:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Right:</source>
         <translation>Справа:</translation>
     </message>
@@ -429,12 +434,12 @@ Overwrite?</source>
 <context>
     <name>MRRNode</name>
     <message>
-        <location filename="../../nodes/mrrnode.cpp" line="+20"/>
+        <location filename="../../nodes/params/operations.cpp" line="+142"/>
         <source>Mirror left to right</source>
         <translation>Отразить слева направо</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Mirror top to bottom</source>
         <translation>Отразить сверху вниз</translation>
     </message>
@@ -447,7 +452,7 @@ Overwrite?</source>
         <translation>Параметры вывода</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+37"/>
         <source>&amp;Language</source>
         <translation>&amp;Язык</translation>
     </message>
@@ -475,72 +480,72 @@ Overwrite?</source>
 <context>
     <name>NodeName</name>
     <message>
-        <location filename="../../nodes/bcsnode.h" line="+21"/>
+        <location filename="../../nodes/params/operations.h" line="+25"/>
         <source>Brightness, Contrast, Saturation</source>
         <translation>Яркость, контраст, насыщенность</translation>
     </message>
     <message>
-        <location filename="../../nodes/binnode.h" line="+18"/>
+        <location line="+145"/>
         <source>Binarization</source>
         <translation>Бинаризация</translation>
     </message>
     <message>
-        <location filename="../../nodes/blrnode.h" line="+18"/>
+        <location line="-65"/>
         <source>Blur</source>
         <translation>Размытие</translation>
     </message>
     <message>
-        <location filename="../../nodes/crpnode.h" line="+21"/>
+        <location line="-51"/>
         <source>Crop</source>
         <translation>Обрезка</translation>
     </message>
     <message>
-        <location filename="../../nodes/frmnode.h" line="+24"/>
+        <location line="+26"/>
         <source>Frame</source>
         <translation>Рамка</translation>
     </message>
     <message>
-        <location filename="../../nodes/grsnode.h" line="+16"/>
+        <location line="+98"/>
         <source>Grayscale</source>
         <translation>Оттенки серого</translation>
     </message>
     <message>
-        <location filename="../../nodes/hstnode.h" line="+19"/>
+        <location line="-139"/>
         <source>Histogram optimizer</source>
         <translation>Оптимизация гистограммы</translation>
     </message>
     <message>
-        <location filename="../../nodes/invnode.h" line="+11"/>
+        <location line="+146"/>
         <source>Invert</source>
         <translation>Инверсия</translation>
     </message>
     <message>
-        <location filename="../../nodes/mrrnode.h" line="+19"/>
+        <location line="-27"/>
         <source>Mirror</source>
         <translation>Отражение</translation>
     </message>
     <message>
-        <location filename="../../nodes/rgbnode.h" line="+18"/>
+        <location line="-91"/>
         <source>RGB-Order</source>
         <translation>Порядок RGB</translation>
     </message>
     <message>
-        <location filename="../../nodes/rsznode.h" line="+23"/>
+        <location line="+71"/>
         <source>Resize</source>
         <translation>Изменение размера</translation>
     </message>
     <message>
-        <location filename="../../nodes/rttnode.h" line="+18"/>
+        <location line="-45"/>
         <source>Rotate</source>
         <translation>Поворот</translation>
     </message>
     <message>
-        <location filename="../../nodes/ucsnode.h" line="+25"/>
+        <location line="+26"/>
         <source>Vignetting</source>
         <translation>Виньетирование</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.h" line="+40"/>
+        <location filename="../../nodes/params/watermarkoperation.h" line="+19"/>
         <source>Watermark</source>
         <translation>Водяной знак</translation>
     </message>
@@ -548,7 +553,7 @@ Overwrite?</source>
 <context>
     <name>PhotoLabel</name>
     <message>
-        <location filename="../../mainpage/photolabel.cpp" line="+36"/>
+        <location filename="../../mainpage/photolabel.cpp" line="+35"/>
         <source>Previous photo</source>
         <translation>Предыдущее фото</translation>
     </message>
@@ -566,7 +571,7 @@ Overwrite?</source>
 <context>
     <name>RGBNode</name>
     <message>
-        <location filename="../../nodes/rgbnode.cpp" line="+14"/>
+        <location filename="../../nodes/rgbnode.cpp" line="+10"/>
         <source>Red&lt;-&gt;Blue</source>
         <translation>Красный&lt;-&gt;Синий</translation>
     </message>
@@ -584,7 +589,7 @@ Overwrite?</source>
 <context>
     <name>RSZNode</name>
     <message>
-        <location filename="../../nodes/rsznode.cpp" line="+20"/>
+        <location filename="../../nodes/rsznode.cpp" line="+13"/>
         <source>Percentage</source>
         <translation>Проценты</translation>
     </message>
@@ -599,17 +604,17 @@ Overwrite?</source>
         <translation>Пиксели</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location filename="../../nodes/params/operations.cpp" line="-32"/>
         <source>Scale by:</source>
         <translation>Масштаб по:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+10"/>
         <source>Width:</source>
         <translation>Ширина:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Height:</source>
         <translation>Высота:</translation>
     </message>
@@ -617,7 +622,7 @@ Overwrite?</source>
 <context>
     <name>RTTNode</name>
     <message>
-        <location filename="../../nodes/rttnode.cpp" line="+14"/>
+        <location filename="../../nodes/rttnode.cpp" line="+11"/>
         <source>Rotate clockwise</source>
         <translation>Повернуть по часовой стрелке</translation>
     </message>
@@ -630,12 +635,12 @@ Overwrite?</source>
 <context>
     <name>Representor</name>
     <message>
-        <location filename="../../mainpage/representor.cpp" line="+45"/>
+        <location filename="../../mainpage/representor.cpp" line="+49"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Result&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Результат&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>Show the result in full size</source>
         <translation>Показать результат в полном размере</translation>
     </message>
@@ -643,7 +648,7 @@ Overwrite?</source>
 <context>
     <name>SHSNode</name>
     <message>
-        <location filename="../../nodes/shsnode.cpp" line="+12"/>
+        <location filename="../../nodes/shsnode.cpp" line="+11"/>
         <source>Sharpness:</source>
         <translation>Резкость:</translation>
     </message>
@@ -651,7 +656,7 @@ Overwrite?</source>
 <context>
     <name>TabLabel</name>
     <message>
-        <location filename="../../flow/tablabel.cpp" line="+21"/>
+        <location filename="../../flow/tablabel.cpp" line="+16"/>
         <source>Enlarge the preview</source>
         <translation>Увеличить превью</translation>
     </message>
@@ -659,17 +664,17 @@ Overwrite?</source>
 <context>
     <name>UCSNode</name>
     <message>
-        <location filename="../../nodes/ucsnode.cpp" line="+12"/>
+        <location filename="../../nodes/params/operations.cpp" line="-33"/>
         <source>Radius:</source>
         <translation>Радиус:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Opacity:</source>
         <translation>Непрозрачность:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Color:</source>
         <translation>Цвет:</translation>
     </message>
@@ -677,57 +682,57 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+100"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+91"/>
         <source>Fewer options</source>
         <translation>Меньше параметров</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+47"/>
         <source>Bold</source>
         <translation>Жирный</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Italic</source>
         <translation>Курсив</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Underlined</source>
         <translation>Подчёркнутый</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+12"/>
         <source>Draw</source>
         <translation>Рисовать</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+13"/>
         <source>Open a logo picture</source>
         <translation>Открыть изображение логотипа</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="-10"/>
         <source>X: </source>
         <translation>X: </translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+5"/>
         <source>Horizontal offset in percent of the height</source>
         <translation>Смещение по горизонтали в процентах от высоты</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+2"/>
         <source>Y: </source>
         <translation>Y: </translation>
     </message>
     <message>
-        <location line="+0"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+1"/>
         <source>Vertical offset in percent of the height</source>
         <translation>Смещение по вертикали в процентах от высоты</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+24"/>
         <source>Text</source>
         <translation>Текст</translation>
     </message>
@@ -737,62 +742,62 @@ Overwrite?</source>
         <translation>Изображение</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>Draw the background behind the text</source>
         <translation>Рисовать фон под текстом</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="-20"/>
         <source>Kind:</source>
         <translation>Тип:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+6"/>
         <source>Text:</source>
         <translation>Текст:</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+24"/>
         <source>Font:</source>
         <translation>Шрифт:</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="-6"/>
         <source>Text color:</source>
         <translation>Цвет текста:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>Background:</source>
         <translation>Фон:</translation>
     </message>
     <message>
-        <location line="-13"/>
+        <location line="+8"/>
         <source>Logo:</source>
         <translation>Логотип:</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="-32"/>
         <source>Size:</source>
         <translation>Размер:</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+20"/>
         <source>Transparency:</source>
         <translation>Прозрачность:</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="-14"/>
         <source>Position:</source>
         <translation>Положение:</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+2"/>
         <source>Expand:</source>
         <translation>Растянуть:</translation>
     </message>
     <message>
-        <location line="+110"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+56"/>
         <source>Warning</source>
         <translation>Предупреждение</translation>
     </message>
@@ -913,7 +918,7 @@ A source photo is never written over.</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+50"/>
+        <location line="+38"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>записано %1 из %2 фото в %3</translation>
     </message>

@@ -4,7 +4,7 @@
 <context>
     <name>OrkWidgets::App</name>
     <message>
-        <location filename="../../libs/cpp/OrkWidgets/app.cpp" line="+90"/>
+        <location filename="../../libs/cpp/OrkWidgets/app.cpp" line="+92"/>
         <source>&lt;H2&gt;%1&lt;/H2&gt;&lt;p&gt;Version %2&lt;/p&gt;&lt;p&gt;Built on %3&lt;/p&gt;</source>
         <translation>&lt;H2&gt;%1&lt;/H2&gt;&lt;p&gt;Version %2&lt;/p&gt;&lt;p&gt;Erstellt am %3&lt;/p&gt;</translation>
     </message>
@@ -63,7 +63,7 @@
 <context>
     <name>OrkWidgets::ImageViewer</name>
     <message>
-        <location filename="../../libs/cpp/OrkWidgets/imageviewer.cpp" line="+35"/>
+        <location filename="../../libs/cpp/OrkWidgets/imageviewer.cpp" line="+37"/>
         <source>-</source>
         <translation>-</translation>
     </message>

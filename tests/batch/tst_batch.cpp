@@ -1,10 +1,12 @@
 // A batch run from the window (engine, worker, dialog) and from pelodine-batch.
 #include "app.h"
+#include "appdata.h"
 #include "batchdialog.h"
 #include "batchengine.h"
 #include "batchthread.h"
 #include "batchworker.h"
 #include "flowfile.h"
+#include "flowoperations.h"
 #include "outputsettings.h"
 #include "testutils.h"
 
@@ -12,6 +14,7 @@
 #include <QDateTime>
 #include <QImageWriter>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
 
@@ -58,7 +61,7 @@ void store(const QString& settings)
     QSettings().clear();
     for (const auto& [key, value] : TestUtils::keyValues(settings))
         if (!key.isEmpty())
-            App::writeSetting(key, value);
+            OrkTools::AppData::writeSetting(key, value);
 }
 
 struct Outcome
@@ -68,11 +71,12 @@ struct Outcome
     QString err;
 };
 
-// Runs pelodine-batch as a user would, with no display to be had.
+// Runs pelodine-batch as a user would, with no display to be had and no runtime folder, which
+// Qt would note on the standard error if the tool let it.
 Outcome runCommand(const QStringList& arguments)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR"})
         environment.remove(name);
     QProcess process;
     process.setProcessEnvironment(environment);
@@ -117,7 +121,7 @@ private:
 void TestBatch::init()
 {
     QSettings().clear();
-    QDir(App::outputBaseFolder()).removeRecursively();
+    QDir(OrkTools::AppData::outputBaseFolder()).removeRecursively();
     root = std::make_unique<QTemporaryDir>();
     in = root->path() + "/in";
     out = root->path() + "/out/";
@@ -209,9 +213,12 @@ void TestBatch::engine()
     QImageWriter writer(&jpeg, "jpeg");
     writer.setQuality(90);
     QVERIFY(writer.write(image));
-    QVERIFY(BatchEngine({source}, {}, "JPEG", 90).write(image, out + "a.jpeg").written);
+    OutputSettings settings;
+    settings.quality = 90;
+    QVERIFY(BatchEngine({source}, {}, settings, out).write(image, out + "a.jpeg").written);
     QCOMPARE(readFile(out + "a.jpeg"), jpeg.data());
-    QVERIFY(!BatchEngine({source}, {}, "NoSuchFormat", -1).write(image, out + "x.png").written);
+    settings.format = "NoSuchFormat";
+    QVERIFY(!BatchEngine({source}, {}, settings, out).write(image, out + "x.png").written);
     QCOMPARE(fileNames(out), QString("a.jpeg"));
 }
 
@@ -289,7 +296,7 @@ void TestBatch::usage()
     const QString shown = exitCode == 0 ? outcome.out : outcome.err;
     QVERIFY2(shown.contains(exitCode == 0 ? message : "pelodine-batch: " + message),
              qPrintable(shown));
-    QVERIFY(!QDir(App::outputBaseFolder()).exists());
+    QVERIFY(!QDir(OrkTools::AppData::outputBaseFolder()).exists());
 }
 
 void TestBatch::sameFilesAsTheWindow_data()
@@ -325,13 +332,14 @@ void TestBatch::sameFilesAsTheWindow()
     QFETCH(QString, window);
     QFETCH(QString, files);
     const QStringList photos = writePhotos();
-    const QString flow = TestUtils::writeFile(FlowFile::flowsFolder() + "job.flow", watermarkFlow);
+    const QString flow =
+        TestUtils::writeFile(OrkTools::AppData::flowsFolder() + "job.flow", watermarkFlow);
     store(window);
     BatchWorker worker;
     const QString windowFolder = root->path() + "/window/";
     QDir().mkpath(windowFolder);
     worker.prepare(OutputSettings::load(), windowFolder, urls(photos),
-                   FlowFile::operationsFromText(watermarkFlow));
+                   batchOperationsFromFlow(watermarkFlow));
     worker.slotDoWork();
 
     store(stored);
@@ -354,11 +362,11 @@ void TestBatch::sampleFlowIntoATimeStampedFolder()
     QCOMPARE(outcome.exitCode, 0);
 
     const QStringList folders =
-        QDir(App::outputBaseFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        QDir(OrkTools::AppData::outputBaseFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     QCOMPARE(folders.size(), 1);
     QVERIFY2(QDateTime::fromString(folders.first(), "yyyy-MM-dd_hh-mm-ss").isValid(),
              qPrintable(folders.first()));
-    const QString folder = App::outputBaseFolder() + folders.first() + "/";
+    const QString folder = OrkTools::AppData::outputBaseFolder() + folders.first() + "/";
     QCOMPARE(fileNames(folder), QString("photo0.jpeg photo1.jpeg photo2.jpeg"));
     const QStringList expected{"1 of 3: " + photos.at(0), "2 of 3: " + photos.at(1),
                                "3 of 3: " + photos.at(2), "3 of 3 photos written into " + folder};
@@ -366,12 +374,20 @@ void TestBatch::sampleFlowIntoATimeStampedFolder()
 }
 
 // Quiet, only the failures are printed, each with its reason; the exit code says some failed.
-// A source photo is never written over, also not through a linked folder.
+// A source photo is never written over, also not through a linked folder. A JPEG cut in half
+// fails with libjpeg's own words, which reach the terminal nowhere else.
 void TestBatch::failuresAreNamedWithTheirReason()
 {
+    // Noise, so that half the file ends inside the picture data, past the tables.
+    QImage noise(64, 48, QImage::Format_RGB32);
+    QRandomGenerator random(7);
+    for (int y = 0; y < noise.height(); ++y)
+        random.fillRange(reinterpret_cast<quint32*>(noise.scanLine(y)), noise.width());
+    const QByteArray jpeg = TestUtils::jpegWithOrientation(noise, 1);
     const QStringList photos{writePhoto(in, "keep.png", 0xff102030),
                              writePhoto(in, "other.jpg", 0xff102030),
-                             TestUtils::writeFile(in + "/b.png", "no photo"), in + "/missing.png"};
+                             TestUtils::writeFile(in + "/b.png", "no photo"), in + "/missing.png",
+                             TestUtils::writeFile(in + "/cut.jpg", jpeg.left(jpeg.size() / 2))};
     const QByteArray before = readFile(photos.at(0));
     QVERIFY(QFile::link(in, root->path() + "/linked"));
     const Outcome outcome = runCommand(
@@ -379,13 +395,14 @@ void TestBatch::failuresAreNamedWithTheirReason()
     QCOMPARE(outcome.exitCode, 1);
     QCOMPARE(outcome.out, QString());
     const QStringList expected{
-        "3 photo(s) failed:",
+        "4 photo(s) failed:",
         "  " + photos.at(0) + ": cannot write: it would replace a source photo",
         "  " + photos.at(2) + ": unreadable: not a photo this program can read",
-        "  " + photos.at(3) + ": unreadable: no such file"};
+        "  " + photos.at(3) + ": unreadable: no such file",
+        "  " + photos.at(4) + ": damaged: Corrupt JPEG data: premature end of data segment"};
     QCOMPARE(outcome.err.split('\n', Qt::SkipEmptyParts), expected);
     QCOMPARE(readFile(photos.at(0)), before);
-    QCOMPARE(fileNames(in), QString("b.png keep.png other.jpg other.png"));
+    QCOMPARE(fileNames(in), QString("b.png cut.jpg keep.png other.jpg other.png"));
 }
 
 PELODINE_TEST_MAIN(TestBatch)

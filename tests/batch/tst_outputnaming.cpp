@@ -1,4 +1,4 @@
-#include "app.h"
+#include "appdata.h"
 #include "commondata.h"
 #include "outputsettings.h"
 #include "testutils.h"
@@ -39,8 +39,8 @@ void TestOutputNaming::displayName()
 // A stored number that cannot be read gives the default: quality 90, numbers all.
 void TestOutputNaming::unreadableSettings()
 {
-    OrkWidgets::App::writeSetting("KeyQuality", "high");
-    OrkWidgets::App::writeSetting("KeyNumbers", "");
+    OrkTools::AppData::writeSetting("KeyQuality", "high");
+    OrkTools::AppData::writeSetting("KeyNumbers", "");
     const OutputSettings settings = OutputSettings::load();
     QCOMPARE(QString("%1 %2 %3").arg(settings.quality).arg(settings.numbers).arg(settings.format),
              QString("90 0 JPEG"));

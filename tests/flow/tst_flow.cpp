@@ -1,6 +1,8 @@
 // The flow files and the flow panel: what is written, what is read back, how the user edits it.
+#include "appdata.h"
 #include "basenode.h"
 #include "flowfile.h"
+#include "flowoperations.h"
 #include "flowpanel.h"
 #include "nodecatalogue.h"
 #include "testutils.h"
@@ -172,7 +174,7 @@ private:
 
 void TestFlow::init()
 {
-    QDir(FlowFile::flowsFolder()).removeRecursively();
+    QDir(OrkTools::AppData::flowsFolder()).removeRecursively();
     renewPanel();
 }
 
@@ -244,11 +246,11 @@ void TestFlow::reading()
     QFETCH(QByteArray, bytes);
     QFETCH(QString, active);
     QString text;
-    QVERIFY(FlowFile::readFlowFile(TestUtils::writeFile(FlowFile::flowsFolder() + "in.flow", bytes),
-                                   &text));
+    QVERIFY(FlowFile::readFlowFile(
+        TestUtils::writeFile(OrkTools::AppData::flowsFolder() + "in.flow", bytes), &text));
     bool ok = false;
     QStringList names;
-    const BatchOperations operations = FlowFile::operationsFromText(text, &ok);
+    const BatchOperations operations = batchOperationsFromFlow(text, &ok);
     for (const auto& operation : operations)
         names << operation.first;
     // Nothing is taken from a text that does not parse.
@@ -259,16 +261,18 @@ void TestFlow::reading()
 // is left beside it.
 void TestFlow::savedTextIsExact()
 {
-    TestUtils::writeFile(FlowFile::flowsFolder() + "\u00e9t\u00e9.flow", QByteArray(1000, 'x'));
+    TestUtils::writeFile(OrkTools::AppData::flowsFolder() + "\u00e9t\u00e9.flow",
+                         QByteArray(1000, 'x'));
     panel->loadFlow(oddFlow);
     // The DOM orders attributes by a per-process random hash seed; a fresh seed per round lets
     // both orders turn up, and "name" must come first every time.
     for (int round = 0; round < 16; ++round) {
         qSetGlobalQHashSeed(-1);
         QVERIFY(panel->saveFlow("\u00e9t\u00e9.flow"));
-        QCOMPARE(readFile(FlowFile::flowsFolder() + "\u00e9t\u00e9.flow"), QByteArray(savedFlow));
+        QCOMPARE(readFile(OrkTools::AppData::flowsFolder() + "\u00e9t\u00e9.flow"),
+                 QByteArray(savedFlow));
     }
-    QCOMPARE(QDir(FlowFile::flowsFolder())
+    QCOMPARE(QDir(OrkTools::AppData::flowsFolder())
                  .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList{"\u00e9t\u00e9.flow"});
 }
@@ -279,7 +283,7 @@ void TestFlow::savedTextIsExact()
 void TestFlow::savedAndReadBack()
 {
     QVERIFY(FlowFile::installSampleFlow());
-    QCOMPARE(readFile(FlowFile::flowsFolder() + "sample.flow"), readFile(":/sample.flow"));
+    QCOMPARE(readFile(OrkTools::AppData::flowsFolder() + "sample.flow"), readFile(":/sample.flow"));
     QString text;
     QVERIFY(FlowFile::readFlowFile(":/sample.flow", &text));
     panel->loadFlow(text.replace("Watermark1", QString("\u00dcber & <\"q\"> ]]>").toHtmlEscaped()));
@@ -293,8 +297,8 @@ void TestFlow::savedAndReadBack()
         operations << qMakePair(node->name(), node->parametersText());
     QVERIFY(operations.first().second.contains("<Text>\u00dcber &amp; &lt;"));
     QVERIFY(panel->saveFlow("a.flow"));
-    QVERIFY(FlowFile::readFlowFile(FlowFile::flowsFolder() + "a.flow", &text));
-    QCOMPARE(FlowFile::operationsFromText(text), operations);
+    QVERIFY(FlowFile::readFlowFile(OrkTools::AppData::flowsFolder() + "a.flow", &text));
+    QCOMPARE(batchOperationsFromFlow(text), operations);
 }
 
 // Runs steps separated by "|" on the panel: "<words for flowOf>" loads them, "broken" loads a
@@ -411,16 +415,16 @@ void TestFlow::menuDialogs()
     QFETCH(QString, script);
     QFETCH(QString, file);
     QFETCH(QByteArray, content);
-    TestUtils::writeFile(FlowFile::flowsFolder() + "a.flow", "old");
-    TestUtils::writeFile(FlowFile::flowsFolder() + "b.flow", "old");
+    TestUtils::writeFile(OrkTools::AppData::flowsFolder() + "a.flow", "old");
+    TestUtils::writeFile(OrkTools::AppData::flowsFolder() + "b.flow", "old");
     renewPanel();
     panel->loadFlow(oddFlow);
     DialogScript dialogs(script);
     menuAction(flowsMenu(), action)->trigger();
     QVERIFY(dialogs.steps.isEmpty());
-    QCOMPARE(QFile::exists(FlowFile::flowsFolder() + file), !content.isEmpty());
-    QCOMPARE(readFile(FlowFile::flowsFolder() + file), content);
-    QCOMPARE(readFile(FlowFile::flowsFolder() + "a.flow"), QByteArray("old"));
+    QCOMPARE(QFile::exists(OrkTools::AppData::flowsFolder() + file), !content.isEmpty());
+    QCOMPARE(readFile(OrkTools::AppData::flowsFolder() + file), content);
+    QCOMPARE(readFile(OrkTools::AppData::flowsFolder() + "a.flow"), QByteArray("old"));
     // The menu lists the flows folder as it is now.
     QCOMPARE(menuAction(flowsMenu(), file) != nullptr, !content.isEmpty());
 }

@@ -1,6 +1,7 @@
 // The program's frame: log, build date, language, first start, the drop window, and the guard
 // through which a second instance hands its files to the first.
 #include "app.h"
+#include "appdata.h"
 #include "dropwidget.h"
 #include "flowfile.h"
 #include "singleappcheck.h"
@@ -85,7 +86,7 @@ private slots:
 
     void sampleFlowCopiedOnceAndNeverOverwritten()
     {
-        const QString copy = FlowFile::flowsFolder() + "sample.flow";
+        const QString copy = OrkTools::AppData::flowsFolder() + "sample.flow";
         QFile::remove(copy);
         QVERIFY(FlowFile::installSampleFlow());
         QCOMPARE(TestUtils::readFile(copy), TestUtils::readFile(":/sample.flow"));
@@ -100,7 +101,8 @@ private slots:
         QCOMPARE(outputOf({"--first-start-child"}, home.path()), QString("first"));
         QVERIFY(QFile::exists(home.path() + "/Pelodine/Flows/sample.flow"));
         QCOMPARE(outputOf({"--first-start-child"}, home.path()), QString("again"));
-        QCOMPARE(App::outputBaseFolder(), TestUtils::sandboxHome() + "/Pictures/Qubrast/Pelodine/");
+        QCOMPARE(OrkTools::AppData::outputBaseFolder(),
+                 TestUtils::sandboxHome() + "/Pictures/Qubrast/Pelodine/");
     }
 
     void dropWindowHandsOnUriListsInOrder()

@@ -1,6 +1,7 @@
 // The main page: photos read upright, their thumbnails, photos dropped in and stepped through,
 // the live preview on a reduced copy, the large view at full size and the batch run.
 #include "app.h"
+#include "appdata.h"
 #include "basenode.h"
 #include "commondata.h"
 #include "creator.h"
@@ -368,16 +369,16 @@ void TestMainPage::batchRunsActiveNodesOnThePhotos()
 
     // Two runs from the flow panel, each closing its dialog when done: the page keeps one
     // dialog, so the odd numbers go on.
-    OrkWidgets::App::writeSetting("KeyOpenLocation", false);
-    OrkWidgets::App::writeSetting("KeyRename", true);
-    OrkWidgets::App::writeSetting("KeyNumbers", 1);
-    QDir(OrkWidgets::App::outputBaseFolder()).removeRecursively();
+    OrkTools::AppData::writeSetting("KeyOpenLocation", false);
+    OrkTools::AppData::writeSetting("KeyRename", true);
+    OrkTools::AppData::writeSetting("KeyNumbers", 1);
+    QDir(OrkTools::AppData::outputBaseFolder()).removeRecursively();
     page->flowPanel()->slotAddWaterMarkNode();
     page->slotFilesDropped(photos({"tall.png", "turned.jpg"}));
     emit page->flowPanel()->runBatch();
     emit page->flowPanel()->runBatch();
     QStringList written;
-    QDirIterator files(OrkWidgets::App::outputBaseFolder(), QDir::Files,
+    QDirIterator files(OrkTools::AppData::outputBaseFolder(), QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext())
         written << QFileInfo(files.next()).fileName();

@@ -1,5 +1,6 @@
 #include "app.h"
 
+#include "appdata.h"
 #include "helpwindow.h"
 #include "translationsmanager.h"
 
@@ -30,7 +31,7 @@ App::App(int& argc, char** argv, const QString& organization, const QString& app
     setOrganizationName(organization);
     setApplicationName(application);
     firstStart = true;
-    const QStringList folders = userFolders();
+    const QStringList folders = OrkTools::AppData::userFolders();
     for (const QString& folder : folders) {
         if (QDir(folder).exists()) {
             firstStart = false;
@@ -66,19 +67,20 @@ void App::setMainWidget(QWidget* widget)
 
 bool App::isHelpDue() const
 {
-    return !helpSlides.isEmpty() && !readSetting(keyHelpShown, false).toBool();
+    return !helpSlides.isEmpty() && !OrkTools::AppData::readSetting(keyHelpShown, false).toBool();
 }
 
 void App::addUsage(int points)
 {
-    writeSetting(keyUsage, readSetting(keyUsage, 0).toInt() + points);
+    OrkTools::AppData::writeSetting(keyUsage,
+                                    OrkTools::AppData::readSetting(keyUsage, 0).toInt() + points);
 }
 
 void App::slotHelp()
 {
     if (helpSlides.isEmpty())
         return;
-    writeSetting(keyHelpShown, true);
+    OrkTools::AppData::writeSetting(keyHelpShown, true);
     auto* window = new HelpWindow(helpSlides, mainWindow);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->show();
@@ -96,68 +98,12 @@ void App::slotAbout()
     QMessageBox::about(mainWindow, tr("About %1").arg(applicationName()), aboutText());
 }
 
-bool App::copyFile(const QString& source, const QString& folder, const QString& name)
-{
-    QDir().mkpath(folder);
-    const QString target = folder + "/" + (name.isEmpty() ? QFileInfo(source).fileName() : name);
-    if (QFile::exists(target))
-        return true;
-    QFile in(source);
-    QFile out(target);
-    if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
-        return false;
-    out.write(in.readAll());
-    return true;
-}
-
-QString App::dataFolder()
-{
-    const QString folder = QDir::homePath() + "/" + QCoreApplication::applicationName() + "/";
-    QDir().mkpath(folder);
-    return folder;
-}
-
-QStringList App::userFolders()
-{
-    const QString data = QDir::homePath() + "/" + QCoreApplication::applicationName() + "/";
-    return {data,
-            data + "Flows/",
-            data + "Logos/",
-            data + "Notes/",
-            data + "Screenshots/",
-            data + "Styles/",
-            data + "Downloads/",
-            data + "Cache/",
-            data + "Help/"};
-}
-
-QString App::outputBaseFolder()
-{
-    const QStringList pictures =
-        QStandardPaths::standardLocations(QStandardPaths::PicturesLocation);
-    const QString base = pictures.isEmpty() ? QDir::homePath() : pictures.first();
-    return base + "/" + QCoreApplication::organizationName() + "/" +
-           QCoreApplication::applicationName() + "/";
-}
-
 QString App::resourceText(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
     return QString::fromUtf8(file.readAll());
-}
-
-QVariant App::readSetting(const QString& key, const QVariant& defaultValue)
-{
-    QSettings settings(QCoreApplication::organizationName(), QCoreApplication::applicationName());
-    return settings.value(key, defaultValue);
-}
-
-void App::writeSetting(const QString& key, const QVariant& value)
-{
-    QSettings settings(QCoreApplication::organizationName(), QCoreApplication::applicationName());
-    settings.setValue(key, value);
 }
 
 double App::devicePixelRatio()
@@ -211,7 +157,7 @@ QString App::logLine(QtMsgType type, const QMessageLogContext& context, const QS
 
 void App::messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    QFile file(dataFolder() + "protocol.log");
+    QFile file(OrkTools::AppData::dataFolder() + "protocol.log");
     if (file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text)) {
         QTextStream stream(&file);
         stream << logLine(type, context, message, QDateTime::currentDateTime()) << '\n';

@@ -44,22 +44,8 @@ public:
     // The about box's text: name, version and build date, the date in the language's form.
     QString aboutText() const;
 
-    // Copies source to folder + "/" + name (the source's file name when name is empty),
-    // creating the folder. An existing target is left untouched and counts as success.
-    static bool copyFile(const QString& source, const QString& folder, const QString& name = {});
-
-    // Home + "/" + application name + "/", created when missing.
-    static QString dataFolder();
-    // The folders whose absence marks a first start; the data folder comes first.
-    static QStringList userFolders();
-    // First pictures location + "/" + organization + "/" + application + "/".
-    static QString outputBaseFolder();
-
     // The whole text of a file or compiled-in resource as UTF-8; empty when it cannot be read.
     static QString resourceText(const QString& path);
-
-    static QVariant readSetting(const QString& key, const QVariant& defaultValue = {});
-    static void writeSetting(const QString& key, const QVariant& value);
 
     static double devicePixelRatio();
 

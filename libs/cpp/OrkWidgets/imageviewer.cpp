@@ -1,5 +1,7 @@
 #include "imageviewer.h"
 
+#include "flatbutton.h"
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -73,10 +75,7 @@ ImageViewer::ImageViewer(QWidget* parent)
 QPushButton* ImageViewer::makeButton(const char* objectName, const QString& text,
                                      const QString& toolTip)
 {
-    auto* button = new QPushButton(text, this);
-    button->setObjectName(objectName);
-    button->setToolTip(toolTip);
-    button->setFlat(true);
+    QPushButton* button = newFlatButton(objectName, this, text, toolTip);
     // The keys belong to the viewer.
     button->setFocusPolicy(Qt::NoFocus);
     return button;

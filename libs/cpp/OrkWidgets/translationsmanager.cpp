@@ -1,6 +1,7 @@
 #include "translationsmanager.h"
 
 #include "app.h"
+#include "appdata.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -12,13 +13,15 @@ namespace OrkWidgets {
 TranslationsManager::TranslationsManager(QObject* parent)
     : QObject(parent)
 {
-    const QString stored = App::readSetting("Language", QLocale::system().name()).toString();
+    const QString stored =
+        OrkTools::AppData::readSetting("Language", QLocale::system().name()).toString();
     setLanguage(languageForLocale(stored));
 }
 
 QString TranslationsManager::languageForLocale(const QString& locale)
 {
-    static const char* const codes[] = {"de", "ru", "es", "fr", "hi", "it", "pt", "ko", "ar", "zh_CN"};
+    static const char* const codes[] = {"de", "ru", "es", "fr", "hi",
+                                        "it", "pt", "ko", "ar", "zh_CN"};
     for (const char* code : codes) {
         if (locale.contains(QLatin1String(code)))
             return QLatin1String(code);
@@ -33,13 +36,13 @@ void TranslationsManager::setLanguage(const QString& language)
         qtTranslator = loadAndInstall(":/" + prefix + "Translations/qt_" + language);
         // The extra "/" after the prefix is how the libraries' files have always been addressed.
         libsTranslator = loadAndInstall(":/" + prefix + "/Translations/libs_" + language);
-        appTranslator = loadAndInstall(":/" + prefix + "Translations/"
-                                       + QCoreApplication::applicationName() + "_" + language);
+        appTranslator = loadAndInstall(":/" + prefix + "Translations/" +
+                                       QCoreApplication::applicationName() + "_" + language);
     }
     QGuiApplication::setLayoutDirection(language == QLatin1String("ar") ? Qt::RightToLeft
                                                                         : Qt::LeftToRight);
     current = language;
-    App::writeSetting("Language", language);
+    OrkTools::AppData::writeSetting("Language", language);
     emit languageChanged(language);
 }
 

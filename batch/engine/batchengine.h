@@ -3,6 +3,7 @@
 #pragma once
 
 #include "batchoperations.h"
+#include "outputsettings.h"
 
 #include <QCoreApplication>
 #include <QFuture>
@@ -31,10 +32,18 @@ public:
         QString error;
     };
 
-    // sources: local file paths in run order. format: the writer's format name ("JPEG", ...);
-    // quality: 1..100, or -1 for the format's default.
+    // What became of one photo: written to target, or the reason in error.
+    struct Result
+    {
+        QImage image;
+        QString target;
+        QString error;
+        bool written() const { return error.isEmpty(); }
+    };
+
+    // sources: local file paths in run order; destination: the folder, ending in "/".
     BatchEngine(const QStringList& sources, const BatchOperations& operations,
-                const QString& format, int quality);
+                const OutputSettings& settings, const QString& destination);
     // Waits for a read that is still running.
     ~BatchEngine();
 
@@ -42,6 +51,15 @@ public:
     BatchEngine& operator=(const BatchEngine&) = delete;
 
     int count() const { return sources.size(); }
+
+    // The numbers the odd and even naming schemes give next; a run continues from them.
+    void setCounters(int odd, int even);
+    int oddCounter() const { return odd; }
+    int evenCounter() const { return even; }
+
+    // The photo at index read, run through the operations, named as the settings say and
+    // written into the destination.
+    Result step(int index);
 
     // The source at index read and run through the operations. Reading the next source starts
     // on a second thread at once, so it overlaps this photo's operations and writing; at most
@@ -52,7 +70,8 @@ public:
     // A path that is one of the run's sources is refused: a source photo is never replaced.
     WriteResult write(const QImage& image, const QString& path) const;
 
-    // The photo with its EXIF orientation applied, in 32-bit ARGB.
+    // The photo with its EXIF orientation applied, in 32-bit ARGB. A photo its decoder
+    // complains about (truncated, corrupt data) is damaged and not taken, whatever it decoded.
     static Photo load(const QString& path);
     // The operations in order through their headless forms. An image an operation leaves
     // empty is reported instead of being handed to the next one.
@@ -60,10 +79,13 @@ public:
 
 private:
     QStringList sources;
+    OutputSettings settings;
+    QString destination;
+    QString extension;
+    int odd = 1;
+    int even = 2;
     QSet<QString> sourcePaths;
     BatchOperations operations;
-    QString format;
-    int quality = -1;
     QThreadPool readerPool;
     int readAheadIndex = -1;
     QFuture<Photo> readAhead;

@@ -1,7 +1,9 @@
 #include "batchengine.h"
 
-#include "nodecatalogue.h"
+#include "operationcatalogue.h"
+#include "outputnaming.h"
 #include "photofiles.h"
+#include "threadmessages.h"
 
 #include <QFileInfo>
 #include <QImageWriter>
@@ -25,11 +27,12 @@ QStringList pathForms(const QString& path)
 } // namespace
 
 BatchEngine::BatchEngine(const QStringList& sources, const BatchOperations& operations,
-                         const QString& format, int quality)
+                         const OutputSettings& settings, const QString& destination)
     : sources(sources)
+    , settings(settings)
+    , destination(destination)
+    , extension("." + OutputNaming::extension(settings.format))
     , operations(operations)
-    , format(format)
-    , quality(quality)
 {
     for (const QString& source : sources) {
         const QStringList forms = pathForms(source);
@@ -42,6 +45,25 @@ BatchEngine::BatchEngine(const QStringList& sources, const BatchOperations& oper
 BatchEngine::~BatchEngine()
 {
     readAhead.waitForFinished();
+}
+
+void BatchEngine::setCounters(int oddNext, int evenNext)
+{
+    odd = oddNext;
+    even = evenNext;
+}
+
+BatchEngine::Result BatchEngine::step(int index)
+{
+    Photo photo = process(index);
+    if (photo.image.isNull())
+        return {{}, {}, photo.error};
+    const QString target = destination +
+                           OutputNaming::outputName(sources.at(index), index, settings.rename,
+                                                    settings.newName, settings.numbers, odd, even) +
+                           extension;
+    const WriteResult written = write(photo.image, target);
+    return {std::move(photo.image), target, written.error};
 }
 
 BatchEngine::Photo BatchEngine::process(int index)
@@ -72,8 +94,8 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return {false, tr("cannot write: %1").arg(file.errorString())};
-    QImageWriter writer(&file, format.toLatin1());
-    writer.setQuality(quality);
+    QImageWriter writer(&file, settings.format.toLatin1());
+    writer.setQuality(settings.writerQuality());
     if (!writer.write(image)) {
         file.cancelWriting();
         return {false, tr("cannot write: %1").arg(writer.errorString())};
@@ -85,7 +107,10 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
 
 BatchEngine::Photo BatchEngine::load(const QString& path)
 {
+    const ThreadMessages decoder;
     QImage image = PhotoFiles::read(path);
+    if (!decoder.messages().isEmpty())
+        return {{}, tr("damaged: %1").arg(decoder.messages().constFirst().trimmed())};
     if (image.isNull()) {
         return {{},
                 QFileInfo(path).isFile() ? tr("unreadable: not a photo this program can read")

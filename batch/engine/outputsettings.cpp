@@ -1,8 +1,6 @@
 #include "outputsettings.h"
 
-#include "app.h"
-
-using OrkWidgets::App;
+#include "appdata.h"
 
 namespace {
 
@@ -17,7 +15,7 @@ const char keyNumbers[] = "KeyNumbers";
 int readInt(const char* key, int defaultValue)
 {
     bool ok = false;
-    const int value = App::readSetting(key, defaultValue).toInt(&ok);
+    const int value = OrkTools::AppData::readSetting(key, defaultValue).toInt(&ok);
     return ok ? value : defaultValue;
 }
 
@@ -27,23 +25,24 @@ OutputSettings OutputSettings::load()
 {
     const OutputSettings defaults;
     OutputSettings settings;
-    settings.openLocation = App::readSetting(keyOpenLocation, defaults.openLocation).toBool();
-    settings.format = App::readSetting(keyFormat, defaults.format).toString();
+    settings.openLocation =
+        OrkTools::AppData::readSetting(keyOpenLocation, defaults.openLocation).toBool();
+    settings.format = OrkTools::AppData::readSetting(keyFormat, defaults.format).toString();
     settings.quality = readInt(keyQuality, defaults.quality);
-    settings.rename = App::readSetting(keyRename, defaults.rename).toBool();
-    settings.newName = App::readSetting(keyNewName, defaults.newName).toString();
+    settings.rename = OrkTools::AppData::readSetting(keyRename, defaults.rename).toBool();
+    settings.newName = OrkTools::AppData::readSetting(keyNewName, defaults.newName).toString();
     settings.numbers = readInt(keyNumbers, defaults.numbers);
     return settings;
 }
 
 void OutputSettings::save() const
 {
-    App::writeSetting(keyOpenLocation, openLocation);
-    App::writeSetting(keyRename, rename);
-    App::writeSetting(keyQuality, quality);
-    App::writeSetting(keyNewName, newName);
-    App::writeSetting(keyFormat, format);
-    App::writeSetting(keyNumbers, numbers);
+    OrkTools::AppData::writeSetting(keyOpenLocation, openLocation);
+    OrkTools::AppData::writeSetting(keyRename, rename);
+    OrkTools::AppData::writeSetting(keyQuality, quality);
+    OrkTools::AppData::writeSetting(keyNewName, newName);
+    OrkTools::AppData::writeSetting(keyFormat, format);
+    OrkTools::AppData::writeSetting(keyNumbers, numbers);
 }
 
 QStringList OutputSettings::formats()

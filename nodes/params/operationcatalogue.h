@@ -1,0 +1,32 @@
+// The operations by display name, without widgets: what the batch runs, and how a flow's
+// parameters become the parameter text a node of the window would write after reading them.
+#pragma once
+
+#include <QDomDocument>
+#include <QDomElement>
+#include <QImage>
+#include <QString>
+#include <QStringList>
+
+// The fourteen names a flow may hold, in the factory's order.
+QStringList operationNames();
+
+// The named operation applied by its headless form to image with the stored parameter text;
+// an unknown name returns the image unchanged. Safe on any thread.
+QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText);
+
+// A node of the named operation as the window makes it, after reading parameters: whether it
+// is active, and its parameter text (keys in table order, each at its default unless read,
+// clamped as its control clamps it). False for a name that is not an operation.
+bool readOperation(const QString& name, const QDomElement& parameters, bool* active,
+                   QString* parametersText);
+
+namespace ParameterText {
+// The Active flag after reading parameters: an "Active" child whose text is "yes" in any
+// letter case switches on, any other text off; without one the flag stays as it was.
+bool active(const QDomElement& parameters, bool current);
+// A new "Parameters" element holding "Active" ("yes"/"no"), for the keys to follow.
+QDomElement newElement(QDomDocument& document, bool active);
+// The element, made by document, as the document's only element, indentation 1.
+QString documentText(QDomDocument& document, const QDomElement& parameters);
+} // namespace ParameterText

@@ -1,0 +1,36 @@
+// "Watermark" without its widgets: a text or a logo placed on the image. The logo travels
+// inside the parameter text as a data URI, so a flow never refers to the file it came from.
+#pragma once
+
+#include "operations.h"
+#include "wmrparams.h"
+
+// The kernel's record plus the logo's file name, which is stored but not drawn.
+struct WMRValues : OrkGraphX::WMRParams
+{
+    // Every other value starts at zero; the logo starts as the built-in one.
+    WMRValues();
+    QString ImageName;
+};
+
+struct WMROperation
+{
+    using Values = WMRValues;
+    static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Watermark");
+    static const ParamTable<Values>& table();
+    static QImage run(QImage image, const Values& values);
+};
+
+namespace WatermarkLogo {
+// The "Logo:" text of the built-in logo; with it "ImageData" is stored empty.
+constexpr const char* BuiltInName = "qubrast.png";
+// The built-in logo ":/qubrast.png", loaded once.
+QImage builtIn();
+// Logos are kept as ARGB32 whatever file or text they came from, so that the preview and the
+// headless form draw the very same pixels.
+QImage fromPicture(const QImage& picture);
+// "data:image/png;base64,..." whatever format the logo came from.
+QString toDataUri(const QImage& logo);
+// Any picture format Qt reads, behind "data:...;base64,"; a null image when it does not decode.
+QImage fromDataUri(const QString& text);
+} // namespace WatermarkLogo
