@@ -10,11 +10,14 @@
 
 #include <QDir>
 #include <QDropEvent>
+#include <QLocalServer>
 #include <QMimeData>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QUuid>
+
+#include <unistd.h>
 
 using OrkTools::SingleAppCheck;
 using OrkWidgets::App;
@@ -149,6 +152,33 @@ private slots:
         QCOMPARE(received.first().first().toString(), message);
         QVERIFY(second->state() == QProcess::NotRunning || second->waitForFinished(10000));
         QCOMPARE(second->exitCode(), 0);
+    }
+
+    // The guard meets only its own user: in a folder others can enter it runs alone, and it
+    // hands nothing to a socket of another user's at its place.
+    void guardMeetsOnlyItsOwnUser()
+    {
+        const QString key = QUuid::createUuid().toString(QUuid::Id128);
+        const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
+        const QString open = TestUtils::sandboxHome() + "/open";
+        QDir().mkpath(open);
+        QFile::setPermissions(open, QFile::permissions(open) | QFileDevice::ReadOther |
+                                        QFileDevice::ExeOther);
+        qputenv("XDG_RUNTIME_DIR", open.toLocal8Bit());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("no private folder"));
+        const bool alone = !SingleAppCheck(key).isRunning() && !SingleAppCheck(key).isRunning();
+        qputenv("XDG_RUNTIME_DIR", runtime);
+        QVERIFY(alone);
+
+        SingleAppCheck first(key);
+        const QString path = QString::fromLocal8Bit(runtime) + "/" + key;
+        QLocalServer::removeServer(path);
+        QLocalServer stranger;
+        QVERIFY(stranger.listen(path));
+        if (chown(QFile::encodeName(path).constData(), 65534, 65534) != 0)
+            QSKIP("only root can hand the socket to another user");
+        QVERIFY(SingleAppCheck(key).isRunning() && !SingleAppCheck(key).sendMessage("x\n"));
+        QVERIFY(!stranger.hasPendingConnections());
     }
 
     void segmentOfAKilledInstanceIsTakenOver()

@@ -1,5 +1,6 @@
 // Guards against a second instance: the first owns a shared-memory segment and a local server,
-// later ones find the segment and hand their message to the first.
+// later ones find the segment and hand their message to the first. Both live in a folder only
+// the user can enter, and a message goes only to a socket and a process of the same user.
 #pragma once
 
 #include <QObject>
@@ -40,7 +41,8 @@ private:
     bool createSegmentAndListen();
 
     bool running = false;
-    QString key;
+    QString folder;
+    QString socketPath;
     QSharedMemory sharedMemory;
     QLocalServer* server = nullptr;
 };
