@@ -203,7 +203,8 @@ QString parseJob(QCommandLineParser& parser, Job& job)
 
 int run(const Job& job)
 {
-    BatchEngine engine(job.photos, job.operations, job.settings, job.destination);
+    BatchEngine engine(job.photos, job.operations, job.settings, job.destination,
+                       {true, false, job.settings.pixelBudget()});
     QStringList failures;
     const int count = engine.count();
     for (int i = 0; i < count; ++i) {

@@ -32,7 +32,9 @@ void BatchWorker::slotDoWork()
     QStringList paths;
     for (const QUrl& file : qAsConst(files))
         paths << file.toLocalFile();
-    BatchEngine engine(paths, operations, settings, destination);
+    // The window's batch replaces same-named results, as it always has.
+    BatchEngine engine(paths, operations, settings, destination,
+                       {false, true, settings.pixelBudget()});
     engine.setCounters(oddCounter, evenCounter);
     const int count = paths.size();
     for (int i = 0; i < count; ++i) {

@@ -136,7 +136,7 @@ int main(int argc, char* argv[])
         OutputSettings settings;
         settings.format = format;
         settings.quality = quality;
-        BatchEngine engine(photos, operations, settings, target.path() + "/");
+        BatchEngine engine(photos, operations, settings, target.path() + "/", {});
         for (int i = 0; i < engine.count(); ++i)
             engine.step(i);
     });

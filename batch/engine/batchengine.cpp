@@ -2,13 +2,17 @@
 
 #include "operationcatalogue.h"
 #include "outputnaming.h"
-#include "photofiles.h"
 #include "threadmessages.h"
 
 #include <QFileInfo>
+#include <QImageReader>
 #include <QImageWriter>
 #include <QSaveFile>
 #include <QtConcurrent>
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <sys/types.h>
 
 namespace {
 
@@ -24,14 +28,32 @@ QStringList pathForms(const QString& path)
     return forms;
 }
 
+QString tooLarge(const QSize& size)
+{
+    return BatchEngine::tr("too large: %1 x %2").arg(size.width()).arg(size.height());
+}
+
+// The reason a file could not be written, in the user's terms where there is one.
+QString writeError(const QFileDevice& file)
+{
+    const QString reason = file.errorString();
+    if (reason == qt_error_string(ENOSPC))
+        return BatchEngine::tr("cannot write: disk full");
+    if (file.error() == QFileDevice::PermissionsError || reason == qt_error_string(EACCES))
+        return BatchEngine::tr("cannot write: permission denied");
+    return BatchEngine::tr("cannot write: %1").arg(reason);
+}
+
 } // namespace
 
 BatchEngine::BatchEngine(const QStringList& sources, const BatchOperations& operations,
-                         const OutputSettings& settings, const QString& destination)
+                         const OutputSettings& settings, const QString& destination,
+                         const Options& options)
     : sources(sources)
     , settings(settings)
     , destination(destination)
     , extension("." + OutputNaming::extension(settings.format))
+    , options(options)
     , operations(operations)
 {
     for (const QString& source : sources) {
@@ -58,10 +80,14 @@ BatchEngine::Result BatchEngine::step(int index)
     Photo photo = process(index);
     if (photo.image.isNull())
         return {{}, {}, photo.error};
-    const QString target = destination +
-                           OutputNaming::outputName(sources.at(index), index, settings.rename,
-                                                    settings.newName, settings.numbers, odd, even) +
-                           extension;
+    const QString name = OutputNaming::outputName(sources.at(index), index, settings.rename,
+                                                  settings.newName, settings.numbers, odd, even);
+    if (!OutputNaming::staysInFolder(name))
+        return {
+            {}, {}, tr("cannot write: the name \"%1\" would leave the output folder").arg(name)};
+    QString target = destination + name + extension;
+    for (int copy = 2; options.keepEveryResult && writtenPaths.contains(target); ++copy)
+        target = destination + name + QString(" (%1)").arg(copy) + extension;
     const WriteResult written = write(photo.image, target);
     return {std::move(photo.image), target, written.error};
 }
@@ -74,54 +100,111 @@ BatchEngine::Photo BatchEngine::process(int index)
     if (index == readAheadIndex)
         photo = readAhead.result();
     else
-        photo = load(sources.at(index));
+        photo = load(sources.at(index), options.pixelBudget);
     readAheadIndex = index + 1;
     readAhead = readAheadIndex < sources.size()
-                    ? QtConcurrent::run(&readerPool, &BatchEngine::load, sources.at(readAheadIndex))
+                    ? QtConcurrent::run(&readerPool, &BatchEngine::load, sources.at(readAheadIndex),
+                                        options.pixelBudget)
                     : QFuture<Photo>();
     if (photo.image.isNull())
         return photo;
-    return apply(std::move(photo.image), operations);
+    return apply(std::move(photo.image), operations, options.pixelBudget);
 }
 
-BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& path) const
+BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& path)
 {
     const QStringList forms = pathForms(path);
     for (const QString& form : forms) {
         if (sourcePaths.contains(form))
             return {false, tr("cannot write: it would replace a source photo")};
     }
+    const QString fileName = QFileInfo(path).fileName();
+    const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    struct stat info = {};
+    if (lstat(QFile::encodeName(path).constData(), &info) == 0) {
+        if (S_ISLNK(info.st_mode))
+            return {false, tr("cannot write: %1 is a link").arg(fileName)};
+        if (!S_ISREG(info.st_mode))
+            return {false, tr("cannot write: %1 is not a regular file").arg(fileName)};
+        if (!options.replaceExisting && !writtenPaths.contains(absolute))
+            return {false, tr("cannot write: %1 already exists").arg(fileName)};
+    }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return {false, tr("cannot write: %1").arg(file.errorString())};
+        return {false, writeError(file)};
     QImageWriter writer(&file, settings.format.toLatin1());
     writer.setQuality(settings.writerQuality());
     if (!writer.write(image)) {
+        const QString reason = file.error() != QFileDevice::NoError
+                                   ? writeError(file)
+                                   : tr("cannot write: %1").arg(writer.errorString());
         file.cancelWriting();
-        return {false, tr("cannot write: %1").arg(writer.errorString())};
+        return {false, reason};
     }
     if (!file.commit())
-        return {false, tr("cannot write: %1").arg(file.errorString())};
+        return {false, writeError(file)};
+    writtenPaths.insert(absolute);
     return {true, {}};
 }
 
-BatchEngine::Photo BatchEngine::load(const QString& path)
+BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
 {
+    const QFileInfo info(path);
+    if (!info.exists())
+        return {{}, tr("unreadable: no such file")};
+    // A FIFO or a device would block the run or never end.
+    if (!info.isFile())
+        return {{}, tr("unreadable: not a regular file")};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {{},
+                file.error() == QFileDevice::PermissionsError
+                    ? tr("unreadable: permission denied")
+                    : tr("unreadable: %1").arg(file.errorString())};
+    }
+    QImageReader reader(&file);
+    reader.setAutoTransform(true);
+    if (reader.format().startsWith("svg"))
+        return {{}, tr("unreadable: a drawing (SVG), not a photo")};
+    const QSize size = reader.size();
+    if (size.isValid() && qint64(size.width()) * size.height() > pixelBudget)
+        return {{}, tooLarge(size)};
     const ThreadMessages decoder;
-    QImage image = PhotoFiles::read(path);
+    QImage image = reader.read();
     if (!decoder.messages().isEmpty())
         return {{}, tr("damaged: %1").arg(decoder.messages().constFirst().trimmed())};
-    if (image.isNull()) {
-        return {{},
-                QFileInfo(path).isFile() ? tr("unreadable: not a photo this program can read")
-                                         : tr("unreadable: no such file")};
-    }
+    if (image.isNull())
+        return {{}, tr("unreadable: not a photo this program can read")};
+    if (qint64(image.width()) * image.height() > pixelBudget)
+        return {{}, tooLarge(image.size())};
     return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}};
 }
 
-BatchEngine::Photo BatchEngine::apply(QImage image, const BatchOperations& operations)
+QString BatchEngine::createRunFolder(const QString& base, const QDateTime& start, bool exclusive)
+{
+    const QString name = base + start.toString("yyyy-MM-dd_hh-mm-ss");
+    if (!QDir().mkpath(base))
+        return {};
+    if (!exclusive)
+        return QDir().mkpath(name) ? name + "/" : QString();
+    // mkdir fails on a folder that exists: the name is this run's alone.
+    for (int copy = 1; copy < 1000; ++copy) {
+        const QString folder = copy == 1 ? name : name + "-" + QString::number(copy);
+        if (mkdir(QFile::encodeName(folder).constData(), 0777) == 0)
+            return folder + "/";
+        if (errno != EEXIST)
+            return {};
+    }
+    return {};
+}
+
+BatchEngine::Photo BatchEngine::apply(QImage image, const BatchOperations& operations,
+                                      qint64 pixelBudget)
 {
     for (const auto& operation : operations) {
+        const QSize next = operationResultSize(operation.first, operation.second, image.size());
+        if (qint64(next.width()) * next.height() > pixelBudget)
+            return {{}, tooLarge(next)};
         image = applyOperation(operation.first, image, operation.second);
         if (image.isNull())
             return {{}, tr("the operation \"%1\" left no image").arg(operation.first)};

@@ -6,6 +6,7 @@
 #include "outputsettings.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFuture>
 #include <QImage>
 #include <QSet>
@@ -41,9 +42,21 @@ public:
         bool written() const { return error.isEmpty(); }
     };
 
+    // How a run treats files already in its folder, and how large a photo may be.
+    struct Options
+    {
+        // Two photos that map to one name both survive: the later gets " (2)", " (3)", ...
+        // before the extension. Off, the later replaces the earlier.
+        bool keepEveryResult = false;
+        // A file this run did not write is replaced; off, it stays and the photo fails.
+        bool replaceExisting = true;
+        // The most pixels a photo may have, checked before it is decoded.
+        qint64 pixelBudget = 100'000'000;
+    };
+
     // sources: local file paths in run order; destination: the folder, ending in "/".
     BatchEngine(const QStringList& sources, const BatchOperations& operations,
-                const OutputSettings& settings, const QString& destination);
+                const OutputSettings& settings, const QString& destination, const Options& options);
     // Waits for a read that is still running.
     ~BatchEngine();
 
@@ -67,15 +80,23 @@ public:
     Photo process(int index);
 
     // Writes through a temporary file, so a failed write leaves no half-written file behind.
-    // A path that is one of the run's sources is refused: a source photo is never replaced.
-    WriteResult write(const QImage& image, const QString& path) const;
-
-    // The photo with its EXIF orientation applied, in 32-bit ARGB. A photo its decoder
-    // complains about (truncated, corrupt data) is damaged and not taken, whatever it decoded.
-    static Photo load(const QString& path);
+    // Refused: a source photo, a link (nothing is written through one), anything but a
+    // regular file, and a file this run did not write unless the options allow replacing it.
+    WriteResult write(const QImage& image, const QString& path);
+    // The photo with its EXIF orientation applied, in 32-bit ARGB. Only a regular file is
+    // read; its size is read from its header first and a photo above pixelBudget is refused
+    // undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged and
+    // not taken, whatever it decoded. SVG drawings are not photos: they may read local files.
+    static Photo load(const QString& path, qint64 pixelBudget);
     // The operations in order through their headless forms. An image an operation leaves
-    // empty is reported instead of being handed to the next one.
-    static Photo apply(QImage image, const BatchOperations& operations);
+    // empty is reported instead of being handed to the next one, and one that would grow past
+    // pixelBudget is refused before it is made.
+    static Photo apply(QImage image, const BatchOperations& operations, qint64 pixelBudget);
+
+    // The folder of a run started at start under base: base + "yyyy-MM-dd_hh-mm-ss/", created
+    // with its parents. With exclusive, a folder of that name that exists already is not
+    // shared: the run takes "...-2/", "...-3/" and so on. Empty when it cannot be created.
+    static QString createRunFolder(const QString& base, const QDateTime& start, bool exclusive);
 
 private:
     QStringList sources;
@@ -84,7 +105,9 @@ private:
     QString extension;
     int odd = 1;
     int even = 2;
+    Options options;
     QSet<QString> sourcePaths;
+    QSet<QString> writtenPaths;
     BatchOperations operations;
     QThreadPool readerPool;
     int readAheadIndex = -1;

@@ -25,4 +25,9 @@ QString outputName(const QString& filePath, int index, bool rename, const QStrin
     return newName + QString::number(number);
 }
 
+bool staysInFolder(const QString& name)
+{
+    return !name.contains('/') && name != QLatin1String(".") && name != QLatin1String("..");
+}
+
 } // namespace OutputNaming

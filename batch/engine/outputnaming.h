@@ -15,4 +15,8 @@ QString extension(const QString& format);
 QString outputName(const QString& filePath, int index, bool rename, const QString& newName,
                    int numbers, int& oddCounter, int& evenCounter);
 
+// Whether a file named name + extension lands in the output folder itself: no path separator,
+// and not "." or "..".
+bool staysInFolder(const QString& name);
+
 } // namespace OutputNaming

@@ -10,6 +10,7 @@ const char keyQuality[] = "KeyQuality";
 const char keyRename[] = "KeyRename";
 const char keyNewName[] = "KeyNewName";
 const char keyNumbers[] = "KeyNumbers";
+const char keyMaxMegapixels[] = "KeyMaxMegapixels";
 
 // A stored number, or the default when the stored text is not one.
 int readInt(const char* key, int defaultValue)
@@ -32,6 +33,8 @@ OutputSettings OutputSettings::load()
     settings.rename = OrkTools::AppData::readSetting(keyRename, defaults.rename).toBool();
     settings.newName = OrkTools::AppData::readSetting(keyNewName, defaults.newName).toString();
     settings.numbers = readInt(keyNumbers, defaults.numbers);
+    const int maxMegapixels = readInt(keyMaxMegapixels, defaults.maxMegapixels);
+    settings.maxMegapixels = maxMegapixels > 0 ? maxMegapixels : defaults.maxMegapixels;
     return settings;
 }
 
@@ -43,11 +46,17 @@ void OutputSettings::save() const
     OrkTools::AppData::writeSetting(keyNewName, newName);
     OrkTools::AppData::writeSetting(keyFormat, format);
     OrkTools::AppData::writeSetting(keyNumbers, numbers);
+    OrkTools::AppData::writeSetting(keyMaxMegapixels, maxMegapixels);
 }
 
 QStringList OutputSettings::formats()
 {
     return {"JPEG", "PNG", "BMP", "TIFF", "PPM", "XPM"};
+}
+
+qint64 OutputSettings::pixelBudget() const
+{
+    return qint64(maxMegapixels) * 1000000;
 }
 
 int OutputSettings::writerQuality() const

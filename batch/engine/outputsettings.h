@@ -12,10 +12,11 @@ struct OutputSettings
     bool rename = false;         // "KeyRename"
     QString newName = "NewName"; // "KeyNewName": prefix of the new names
     int numbers = 0;             // "KeyNumbers": 0 all, 1 odd, 2 even
+    int maxMegapixels = 100;     // "KeyMaxMegapixels": the largest photo a run decodes
 
     // The stored values; a key that is missing or unreadable gives the default above.
     static OutputSettings load();
-    // Writes the six keys in the order the settings dialog saves them.
+    // Writes the six keys in the order the settings dialog saves them, then the newer ones.
     void save() const;
 
     // The output formats in the order the settings dialog lists them.
@@ -24,4 +25,6 @@ struct OutputSettings
     // The quality handed to the image writer: the stored one for "JPEG", else the format's default
     // (-1).
     int writerQuality() const;
+    // maxMegapixels in pixels.
+    qint64 pixelBudget() const;
 };

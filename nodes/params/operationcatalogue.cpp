@@ -1,5 +1,6 @@
 #include "operationcatalogue.h"
 
+#include "geometric.h"
 #include "operations.h"
 #include "watermarkoperation.h"
 
@@ -9,6 +10,7 @@ struct Entry
 {
     const char* name;
     QImage (*apply)(QImage image, const QString& parametersText);
+    QSize (*resultSize)(const QString& parametersText, const QSize& size);
     void (*read)(const QDomElement& parameters, QDomElement& written, QDomDocument& document);
 };
 
@@ -22,6 +24,27 @@ template <typename Op> QImage applyHeadless(QImage image, const QString& paramet
     return Op::run(image, Op::table().parse(parametersText));
 }
 
+// The operations that change the pixel count; every other keeps the size.
+template <typename Values> QSize sizeAfter(const Values& /*values*/, const QSize& size)
+{
+    return size;
+}
+
+QSize sizeAfter(const FRMValues& values, const QSize& size)
+{
+    return OrkGraphX::framedSize(size, values.width);
+}
+
+QSize sizeAfter(const RSZValues& values, const QSize& size)
+{
+    return OrkGraphX::resizedSize(size, values.width, values.height, values.mode, false);
+}
+
+template <typename Op> QSize resultSizeOf(const QString& parametersText, const QSize& size)
+{
+    return sizeAfter(Op::table().parse(parametersText), size);
+}
+
 template <typename Op>
 void readLikeNode(const QDomElement& parameters, QDomElement& written, QDomDocument& document)
 {
@@ -32,7 +55,7 @@ void readLikeNode(const QDomElement& parameters, QDomElement& written, QDomDocum
 
 template <typename Op> constexpr Entry entry()
 {
-    return {Op::Name, &applyHeadless<Op>, &readLikeNode<Op>};
+    return {Op::Name, &applyHeadless<Op>, &resultSizeOf<Op>, &readLikeNode<Op>};
 }
 
 // The factory's order.
@@ -66,6 +89,12 @@ QImage applyOperation(const QString& name, const QImage& image, const QString& p
 {
     const Entry* found = findEntry(name);
     return found ? found->apply(image, parametersText) : image;
+}
+
+QSize operationResultSize(const QString& name, const QString& parametersText, const QSize& size)
+{
+    const Entry* found = findEntry(name);
+    return found ? found->resultSize(parametersText, size) : size;
 }
 
 bool readOperation(const QString& name, const QDomElement& parameters, bool* active,

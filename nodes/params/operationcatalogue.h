@@ -15,6 +15,10 @@ QStringList operationNames();
 // an unknown name returns the image unchanged. Safe on any thread.
 QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText);
 
+// The size applyOperation would give an image of size, worked out without touching pixels, so
+// that a run can refuse a result too large before it is allocated. Empty for no image.
+QSize operationResultSize(const QString& name, const QString& parametersText, const QSize& size);
+
 // A node of the named operation as the window makes it, after reading parameters: whether it
 // is active, and its parameter text (keys in table order, each at its default unless read,
 // clamped as its control clamps it). False for a name that is not an operation.

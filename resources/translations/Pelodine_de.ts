@@ -149,39 +149,93 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+72"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+98"/>
         <source>no photo at position %1</source>
         <translation>kein Foto an Position %1</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+21"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="+4"/>
-        <location line="+5"/>
-        <location line="+3"/>
+        <location line="-75"/>
+        <location line="+96"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="-107"/>
+        <source>too large: %1 x %2</source>
+        <translation>zu groß: %1 x %2</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>cannot write: disk full</source>
+        <translation>Schreiben nicht möglich: Datenträger voll</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>cannot write: permission denied</source>
+        <translation>Schreiben nicht möglich: keine Berechtigung</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
+        <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>cannot write: %1 is a link</source>
+        <translation>Schreiben nicht möglich: %1 ist eine Verknüpfung</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>cannot write: %1 is not a regular file</source>
+        <translation>Schreiben nicht möglich: %1 ist keine normale Datei</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>cannot write: %1 already exists</source>
+        <translation>Schreiben nicht möglich: %1 existiert bereits</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>unreadable: not a regular file</source>
+        <translation>nicht lesbar: keine normale Datei</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>unreadable: permission denied</source>
+        <translation>nicht lesbar: keine Berechtigung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>unreadable: %1</source>
+        <translation>nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>unreadable: a drawing (SVG), not a photo</source>
+        <translation>nicht lesbar: eine Zeichnung (SVG), kein Foto</translation>
+    </message>
+    <message>
+        <location line="+7"/>
         <source>damaged: %1</source>
         <translation>beschädigt: %1</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>unreadable: not a photo this program can read</source>
         <translation>nicht lesbar: kein Foto, das dieses Programm lesen kann</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-23"/>
         <source>unreadable: no such file</source>
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+56"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -480,7 +534,7 @@ Overwrite?</source>
 <context>
     <name>NodeName</name>
     <message>
-        <location filename="../../nodes/params/operations.h" line="+25"/>
+        <location filename="../../nodes/params/operations.h" line="+26"/>
         <source>Brightness, Contrast, Saturation</source>
         <translation>Helligkeit, Kontrast, Sättigung</translation>
     </message>
@@ -820,7 +874,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+42"/>
+        <location filename="../../app/batchmain.cpp" line="+59"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -918,7 +972,7 @@ Ein Quellfoto wird nie überschrieben.</translation>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+39"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>%1 von %2 Fotos nach %3 geschrieben</translation>
     </message>

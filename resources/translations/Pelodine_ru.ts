@@ -149,39 +149,93 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+72"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+98"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+21"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="+4"/>
-        <location line="+5"/>
-        <location line="+3"/>
+        <location line="-75"/>
+        <location line="+96"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="-107"/>
+        <source>too large: %1 x %2</source>
+        <translation>слишком большое: %1 x %2</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>cannot write: disk full</source>
+        <translation>запись невозможна: диск заполнен</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>cannot write: permission denied</source>
+        <translation>запись невозможна: нет прав доступа</translation>
+    </message>
+    <message>
+        <location line="+44"/>
+        <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
+        <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>cannot write: %1 is a link</source>
+        <translation>запись невозможна: %1 — ссылка</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>cannot write: %1 is not a regular file</source>
+        <translation>запись невозможна: %1 — не обычный файл</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>cannot write: %1 already exists</source>
+        <translation>запись невозможна: %1 уже существует</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>unreadable: not a regular file</source>
+        <translation>не читается: не обычный файл</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>unreadable: permission denied</source>
+        <translation>не читается: нет прав доступа</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>unreadable: %1</source>
+        <translation>не читается: %1</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>unreadable: a drawing (SVG), not a photo</source>
+        <translation>не читается: рисунок (SVG), а не фотография</translation>
+    </message>
+    <message>
+        <location line="+7"/>
         <source>damaged: %1</source>
         <translation>повреждён: %1</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>unreadable: not a photo this program can read</source>
         <translation>не читается: это не фото, которое может прочитать программа</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-23"/>
         <source>unreadable: no such file</source>
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+56"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -480,7 +534,7 @@ Overwrite?</source>
 <context>
     <name>NodeName</name>
     <message>
-        <location filename="../../nodes/params/operations.h" line="+25"/>
+        <location filename="../../nodes/params/operations.h" line="+26"/>
         <source>Brightness, Contrast, Saturation</source>
         <translation>Яркость, контраст, насыщенность</translation>
     </message>
@@ -820,7 +874,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+42"/>
+        <location filename="../../app/batchmain.cpp" line="+59"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -918,7 +972,7 @@ A source photo is never written over.</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+39"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>записано %1 из %2 фото в %3</translation>
     </message>

@@ -194,16 +194,22 @@ void TestBatch::engine()
                               "</Parameters>";
     const BatchEngine::Photo grey = BatchEngine::apply(
         TestUtils::filledImage(16, 8, 0xff10e030),
-        {{"Binarization", threshold}, {"Sharpen", active}, {"Grayscale", active}});
+        {{"Binarization", threshold}, {"Sharpen", active}, {"Grayscale", active}}, 1000);
     QCOMPARE_IMAGES(grey.image, TestUtils::filledImage(16, 8, 0xff555555));
 
     // An operation that leaves no image ends the photo there, and says which one it was.
     const QString crop = "<Parameters><Active>yes</Active><Top>60</Top><Bottom>60</Bottom>"
                          "</Parameters>";
     const BatchEngine::Photo gone = BatchEngine::apply(TestUtils::filledImage(16, 8, 0xff000000),
-                                                       {{"Crop", crop}, {"Invert", active}});
+                                                       {{"Crop", crop}, {"Invert", active}}, 1000);
     QVERIFY(gone.image.isNull());
     QVERIFY2(gone.error.contains("\"Crop\""), qPrintable(gone.error));
+    // A 200 % frame on 16 x 8 adds 32 on each side: 80 x 72 is 5760 pixels, refused unmade
+    // under a budget of 5000.
+    const QString frame = "<Parameters><Active>yes</Active><Width>200</Width></Parameters>";
+    QCOMPARE(BatchEngine::apply(TestUtils::filledImage(16, 8, 0xff000000), {{"Frame", frame}}, 5000)
+                 .error,
+             QString("too large: 80 x 72"));
 
     // JPEG at the quality asked for. A write that fails leaves no file, whole or partial.
     const QString source = writePhoto(in, "a.png", 0xff802050);
@@ -215,10 +221,10 @@ void TestBatch::engine()
     QVERIFY(writer.write(image));
     OutputSettings settings;
     settings.quality = 90;
-    QVERIFY(BatchEngine({source}, {}, settings, out).write(image, out + "a.jpeg").written);
+    QVERIFY(BatchEngine({source}, {}, settings, out, {}).write(image, out + "a.jpeg").written);
     QCOMPARE(readFile(out + "a.jpeg"), jpeg.data());
     settings.format = "NoSuchFormat";
-    QVERIFY(!BatchEngine({source}, {}, settings, out).write(image, out + "x.png").written);
+    QVERIFY(!BatchEngine({source}, {}, settings, out, {}).write(image, out + "x.png").written);
     QCOMPARE(fileNames(out), QString("a.jpeg"));
 }
 

@@ -292,15 +292,24 @@ QImage cropImage(QImage& image, int left, int right, int top, int bottom)
     return result;
 }
 
+QSize framedSize(const QSize& size, int percent)
+{
+    const qint64 border = truncToInt(double(qint64(size.width()) * percent) / 100.0);
+    const qint64 width = size.width() + 2 * border;
+    const qint64 height = size.height() + 2 * border;
+    if (width < 1 || height < 1 || width > INT_MAX || height > INT_MAX)
+        return QSize();
+    return QSize(int(width), int(height));
+}
+
 QImage drawFrame(QImage& image, int percent, QColor colour)
 {
     const QImage source = wordImage(image);
-    const int border = truncToInt(double(qint64(source.width()) * percent) / 100.0);
-    const qint64 width = source.width() + 2 * qint64(border);
-    const qint64 height = source.height() + 2 * qint64(border);
-    if (width < 1 || height < 1 || width > INT_MAX || height > INT_MAX)
+    const QSize size = framedSize(source.size(), percent);
+    if (size.isEmpty())
         return QImage();
-    QImage result = newImage(int(width), int(height), source.format());
+    const int border = (size.width() - source.width()) / 2;
+    QImage result = newImage(size.width(), size.height(), source.format());
     if (result.isNull())
         return result;
     // The image is filled with the colour and the source copied over it; only the part the
@@ -324,36 +333,34 @@ QImage drawFrame(QImage& image, int percent, QColor colour)
     return result;
 }
 
-QImage resizeImage(QImage& image, int width, int height, int mode, bool previewMode)
+QSize resizedSize(const QSize& size, int width, int height, int mode, bool previewMode)
 {
-    if (image.isNull())
-        return image;
     switch (mode) {
     case 0:
-        return image.scaled(truncToInt(width / 100.0 * image.width()),
-                            truncToInt(height / 100.0 * image.height()), Qt::IgnoreAspectRatio,
-                            Qt::SmoothTransformation);
+        return QSize(truncToInt(width / 100.0 * size.width()),
+                     truncToInt(height / 100.0 * size.height()));
     case 1:
         if (previewMode)
-            return image;
-        return image.scaled(width, height, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    case 2: {
+            return size;
+        return size.scaled(width, height, Qt::KeepAspectRatio);
+    case 2:
         // The interactive preview caps the longer requested side at 700 pixels.
-        qint64 targetWidth = width;
-        qint64 targetHeight = height;
-        if (previewMode && width >= 701) {
-            targetWidth = 700;
-            targetHeight = qint64(height) * 700 / width;
-        } else if (previewMode && height > 700) {
-            targetWidth = qint64(width) * 700 / height;
-            targetHeight = 700;
-        }
-        return image.scaled(int(targetWidth), int(targetHeight), Qt::IgnoreAspectRatio,
-                            Qt::SmoothTransformation);
-    }
+        if (previewMode && width >= 701)
+            return QSize(700, int(qint64(height) * 700 / width));
+        if (previewMode && height > 700)
+            return QSize(int(qint64(width) * 700 / height), 700);
+        return QSize(width, height);
     default:
-        return image;
+        return size;
     }
+}
+
+QImage resizeImage(QImage& image, int width, int height, int mode, bool previewMode)
+{
+    if (image.isNull() || mode < 0 || mode > 2 || (mode == 1 && previewMode))
+        return image;
+    const QSize size = resizedSize(image.size(), width, height, mode, previewMode);
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 QImage fitIntoBox(QImage& image, QSize box, QColor background)

@@ -20,9 +20,13 @@ QImage cropImage(QImage& image, int left, int right, int top, int bottom);
 
 // A border of percent of the width on all four sides.
 QImage drawFrame(QImage& image, int percent, QColor colour);
+// The size drawFrame gives an image of size; empty when it would be no image.
+QSize framedSize(const QSize& size, int percent);
 
 // mode 0 percent, 1 maximum pixels, 2 pixels; previewMode caps the interactive preview.
 QImage resizeImage(QImage& image, int width, int height, int mode, bool previewMode);
+// The size resizeImage gives an image of size (before Qt makes each side at least 1).
+QSize resizedSize(const QSize& size, int width, int height, int mode, bool previewMode);
 
 QImage fitIntoBox(QImage& image, QSize box, QColor background);
 
