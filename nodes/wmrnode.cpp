@@ -191,7 +191,7 @@ WMRNode::WMRNode(QWidget* parent)
 
 bool WMRNode::openLogoFile(const QString& fileName)
 {
-    const QImage picture = WatermarkLogo::fromPicture(QImage(fileName));
+    const QImage picture = WatermarkLogo::fromFile(fileName);
     if (picture.isNull()) {
         QMessageBox::warning(this, tr("Warning"), tr("Can not open the image file:") + fileName,
                              QMessageBox::Ok);

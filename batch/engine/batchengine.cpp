@@ -54,7 +54,7 @@ BatchEngine::BatchEngine(const QStringList& sources, const BatchOperations& oper
     , destination(destination)
     , extension("." + OutputNaming::extension(settings.format))
     , options(options)
-    , operations(operations)
+    , operations(prepare(operations))
 {
     for (const QString& source : sources) {
         const QStringList forms = pathForms(source);
@@ -198,16 +198,24 @@ QString BatchEngine::createRunFolder(const QString& base, const QDateTime& start
     return {};
 }
 
-BatchEngine::Photo BatchEngine::apply(QImage image, const BatchOperations& operations,
+BatchEngine::Photo BatchEngine::apply(QImage image, const QVector<PreparedOperation>& operations,
                                       qint64 pixelBudget)
 {
-    for (const auto& operation : operations) {
-        const QSize next = operationResultSize(operation.first, operation.second, image.size());
+    for (const PreparedOperation& operation : operations) {
+        const QSize next = operation.resultSize(image.size());
         if (qint64(next.width()) * next.height() > pixelBudget)
             return {{}, tooLarge(next)};
-        image = applyOperation(operation.first, image, operation.second);
+        image = operation.apply(std::move(image));
         if (image.isNull())
-            return {{}, tr("the operation \"%1\" left no image").arg(operation.first)};
+            return {{}, tr("the operation \"%1\" left no image").arg(operation.name)};
     }
     return {image, {}};
+}
+
+QVector<PreparedOperation> BatchEngine::prepare(const BatchOperations& operations)
+{
+    QVector<PreparedOperation> prepared;
+    for (const auto& operation : operations)
+        prepared << prepareOperation(operation.first, operation.second);
+    return prepared;
 }

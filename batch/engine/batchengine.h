@@ -3,6 +3,7 @@
 #pragma once
 
 #include "batchoperations.h"
+#include "operationcatalogue.h"
 #include "outputsettings.h"
 
 #include <QCoreApplication>
@@ -13,6 +14,7 @@
 #include <QString>
 #include <QStringList>
 #include <QThreadPool>
+#include <QVector>
 
 class BatchEngine
 {
@@ -91,7 +93,10 @@ public:
     // The operations in order through their headless forms. An image an operation leaves
     // empty is reported instead of being handed to the next one, and one that would grow past
     // pixelBudget is refused before it is made.
-    static Photo apply(QImage image, const BatchOperations& operations, qint64 pixelBudget);
+    static Photo apply(QImage image, const QVector<PreparedOperation>& operations,
+                       qint64 pixelBudget);
+    // The operations with their parameters read once (a logo is decoded once per run).
+    static QVector<PreparedOperation> prepare(const BatchOperations& operations);
 
     // The folder of a run started at start under base: base + "yyyy-MM-dd_hh-mm-ss/", created
     // with its parents. With exclusive, a folder of that name that exists already is not
@@ -108,7 +113,7 @@ private:
     Options options;
     QSet<QString> sourcePaths;
     QSet<QString> writtenPaths;
-    BatchOperations operations;
+    QVector<PreparedOperation> operations;
     QThreadPool readerPool;
     int readAheadIndex = -1;
     QFuture<Photo> readAhead;

@@ -3,7 +3,9 @@
 #include "flowfile.h"
 #include "operationcatalogue.h"
 
-BatchOperations batchOperationsFromFlow(const QString& flowText, bool* ok)
+#include <QCoreApplication>
+
+BatchOperations batchOperationsFromFlow(const QString& flowText, bool* ok, QStringList* dropped)
 {
     BatchOperations operations;
     QDomDocument document;
@@ -17,7 +19,21 @@ BatchOperations batchOperationsFromFlow(const QString& flowText, bool* ok)
     for (const FlowFile::Operation& step : steps) {
         bool active = false;
         QString parametersText;
-        if (readOperation(step.name, step.parameters, &active, &parametersText) && active)
+        QStringList unread;
+        if (!readOperation(step.name, step.parameters, &active, &parametersText, &unread)) {
+            if (dropped)
+                *dropped << QCoreApplication::translate("BatchOperations",
+                                                        "\"%1\" is not an operation: left out")
+                                .arg(step.name);
+            continue;
+        }
+        if (dropped) {
+            for (const QString& key : qAsConst(unread))
+                *dropped << QCoreApplication::translate("BatchOperations",
+                                                        "%1: the %2 cannot be read: left as it was")
+                                .arg(step.name, key);
+        }
+        if (active)
             operations.append({step.name, parametersText});
     }
     return operations;

@@ -6,6 +6,7 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
+#include <QTextCodec>
 #include <QXmlStreamReader>
 
 namespace FlowFile {
@@ -61,8 +62,25 @@ bool readFlowFile(const QString& path, QString* text)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    *text = QString::fromUtf8(file.readAll());
+    *text = decodedXml(file.readAll());
     return true;
+}
+
+QString decodedXml(const QByteArray& bytes)
+{
+    // A byte order mark decides; then the declaration's encoding; else UTF-8, as XML says.
+    if (QTextCodec* marked = QTextCodec::codecForUtfText(bytes, nullptr))
+        return marked->toUnicode(bytes);
+    QXmlStreamReader reader(bytes);
+    while (!reader.atEnd() && reader.readNext() != QXmlStreamReader::StartDocument) {
+        if (reader.tokenType() != QXmlStreamReader::NoToken)
+            break;
+    }
+    const QString declared = reader.documentEncoding().toString();
+    if (QTextCodec* codec =
+            declared.isEmpty() ? nullptr : QTextCodec::codecForName(declared.toLatin1()))
+        return codec->toUnicode(bytes);
+    return QString::fromUtf8(bytes);
 }
 
 bool parseFlowText(const QString& text, QDomDocument* document)

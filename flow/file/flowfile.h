@@ -23,8 +23,10 @@ QString flowFileName(const QString& typedName);
 // empty if there is none.
 QString findFlow(const QString& name);
 
-// The whole file as UTF-8 text; false when it cannot be opened.
+// The whole file as text, decoded as XML is: by its byte order mark (UTF-8, UTF-16, UTF-32), else
+// by the encoding its declaration names, else as UTF-8. False when it cannot be opened.
 bool readFlowFile(const QString& path, QString* text);
+QString decodedXml(const QByteArray& bytes);
 
 // Parses a flow text; false for text that is not well-formed XML or is nested absurdly deep.
 bool parseFlowText(const QString& text, QDomDocument* document);

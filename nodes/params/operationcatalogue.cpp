@@ -9,20 +9,10 @@ namespace {
 struct Entry
 {
     const char* name;
-    QImage (*apply)(QImage image, const QString& parametersText);
-    QSize (*resultSize)(const QString& parametersText, const QSize& size);
-    void (*read)(const QDomElement& parameters, QDomElement& written, QDomDocument& document);
+    PreparedOperation (*prepare)(const QString& name, const QString& parametersText);
+    QStringList (*read)(const QDomElement& parameters, QDomElement& written,
+                        QDomDocument& document);
 };
-
-// The values start at zero, are taken from the text, and the operation's one mapping runs on
-// the calling thread.
-template <typename Op> QImage applyHeadless(QImage image, const QString& parametersText)
-{
-    // The kernels read 32-bit words; a photo of another depth is widened first.
-    if (image.depth() != 32)
-        image = image.convertToFormat(QImage::Format_ARGB32);
-    return Op::run(image, Op::table().parse(parametersText));
-}
 
 // The operations that change the pixel count; every other keeps the size.
 template <typename Values> QSize sizeAfter(const Values& /*values*/, const QSize& size)
@@ -40,22 +30,35 @@ QSize sizeAfter(const RSZValues& values, const QSize& size)
     return OrkGraphX::resizedSize(size, values.width, values.height, values.mode, false);
 }
 
-template <typename Op> QSize resultSizeOf(const QString& parametersText, const QSize& size)
+// The values start at zero and are taken from the text once; the operation's one mapping then
+// runs on the calling thread, image after image.
+template <typename Op>
+PreparedOperation prepareHeadless(const QString& name, const QString& parametersText)
 {
-    return sizeAfter(Op::table().parse(parametersText), size);
+    const typename Op::Values values = Op::table().parse(parametersText);
+    return {name,
+            [values](QImage image) {
+                // The kernels read 32-bit words; a photo of another depth is widened first.
+                if (image.depth() != 32)
+                    image = image.convertToFormat(QImage::Format_ARGB32);
+                return Op::run(image, values);
+            },
+            [values](const QSize& size) { return sizeAfter(values, size); }};
 }
 
 template <typename Op>
-void readLikeNode(const QDomElement& parameters, QDomElement& written, QDomDocument& document)
+QStringList readLikeNode(const QDomElement& parameters, QDomElement& written,
+                         QDomDocument& document)
 {
     typename Op::Values values = Op::table().defaults();
-    Op::table().load(parameters, values);
+    const QStringList unread = Op::table().load(parameters, values);
     Op::table().save(values, written, document);
+    return unread;
 }
 
 template <typename Op> constexpr Entry entry()
 {
-    return {Op::Name, &applyHeadless<Op>, &resultSizeOf<Op>, &readLikeNode<Op>};
+    return {Op::Name, &prepareHeadless<Op>, &readLikeNode<Op>};
 }
 
 // The factory's order.
@@ -85,20 +88,22 @@ QStringList operationNames()
     return names;
 }
 
-QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText)
+PreparedOperation prepareOperation(const QString& name, const QString& parametersText)
 {
     const Entry* found = findEntry(name);
-    return found ? found->apply(image, parametersText) : image;
+    if (found)
+        return found->prepare(name, parametersText);
+    return {name, [](const QImage& image) { return image; },
+            [](const QSize& size) { return size; }};
 }
 
-QSize operationResultSize(const QString& name, const QString& parametersText, const QSize& size)
+QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText)
 {
-    const Entry* found = findEntry(name);
-    return found ? found->resultSize(parametersText, size) : size;
+    return prepareOperation(name, parametersText).apply(image);
 }
 
 bool readOperation(const QString& name, const QDomElement& parameters, bool* active,
-                   QString* parametersText)
+                   QString* parametersText, QStringList* unread)
 {
     const Entry* found = findEntry(name);
     if (!found)
@@ -108,7 +113,9 @@ bool readOperation(const QString& name, const QDomElement& parameters, bool* act
     // A document made with a (empty) name is a real one: a default-constructed one is null.
     QDomDocument document(QStringLiteral(""));
     QDomElement written = ParameterText::newElement(document, *active);
-    found->read(parameters, written, document);
+    const QStringList keys = found->read(parameters, written, document);
+    if (unread)
+        *unread = keys;
     *parametersText = ParameterText::documentText(document, written);
     return true;
 }

@@ -8,22 +8,32 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 // The fourteen names a flow may hold, in the factory's order.
 QStringList operationNames();
 
-// The named operation applied by its headless form to image with the stored parameter text;
-// an unknown name returns the image unchanged. Safe on any thread.
-QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText);
+// An operation with its parameter text read once, for a run over many images: apply gives the
+// image through the operation's headless form, resultSize the size that would give without
+// touching pixels (so that a result too large can be refused before it is made). Both are safe
+// on any thread; an unknown name leaves images and sizes as they are.
+struct PreparedOperation
+{
+    QString name;
+    std::function<QImage(QImage)> apply;
+    std::function<QSize(const QSize&)> resultSize;
+};
+PreparedOperation prepareOperation(const QString& name, const QString& parametersText);
 
-// The size applyOperation would give an image of size, worked out without touching pixels, so
-// that a run can refuse a result too large before it is allocated. Empty for no image.
-QSize operationResultSize(const QString& name, const QString& parametersText, const QSize& size);
+// The named operation applied by its headless form to image with the stored parameter text.
+QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText);
 
 // A node of the named operation as the window makes it, after reading parameters: whether it
 // is active, and its parameter text (keys in table order, each at its default unless read,
-// clamped as its control clamps it). False for a name that is not an operation.
+// clamped as its control clamps it), and the keys whose text could not be read (their values
+// stay as they were). False for a name that is not an operation.
 bool readOperation(const QString& name, const QDomElement& parameters, bool* active,
-                   QString* parametersText);
+                   QString* parametersText, QStringList* unread = nullptr);
 
 namespace ParameterText {
 // The Active flag after reading parameters: an "Active" child whose text is "yes" in any

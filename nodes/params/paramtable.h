@@ -11,6 +11,7 @@
 #include <QFont>
 #include <QImage>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QVector>
 
@@ -146,19 +147,27 @@ public:
     }
 
     // Loading as the node's controls do: children in document order, each value that
-    // converts clamped as its control clamps it, then what the key does to the others.
-    void load(const QDomElement& parameters, Values& values) const
+    // converts clamped as its control clamps it, then what the key does to the others. The
+    // names of the keys whose text is not empty and did not convert are returned; their
+    // values stay.
+    QStringList load(const QDomElement& parameters, Values& values) const
     {
-        forEachKey(parameters, [&values](const Row& row, const QString& text) {
+        QStringList unread;
+        forEachKey(parameters, [&values, &unread](const Row& row, const QString& text) {
             QVariant value = row.get(values);
             const QVariant before = value;
-            if (!row.text.read(text, value))
+            if (!row.text.read(text, value)) {
+                // An empty value is how a flow says "as it was" (the built-in logo).
+                if (!text.isEmpty())
+                    unread << row.name;
                 return;
+            }
             row.set(values,
                     ParamRules::clamped(row.kind, value, before, row.rangeIn(values), row.choices));
             if (row.afterLoad)
                 row.afterLoad(values, before);
         });
+        return unread;
     }
 
     // Calls visit(row, value) for every child, in document order, that names a key and whose

@@ -4,6 +4,11 @@
 #include "watermark.h"
 
 #include <QBuffer>
+#include <QDomDocument>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QVector>
 
 WMRValues::WMRValues()
 {
@@ -107,8 +112,61 @@ QImage fromDataUri(const QString& text)
     if (!text.startsWith(QLatin1String("data:")) || at < 0)
         return QImage();
     // The declared type is not trusted: the reader recognises the picture by its content.
-    return fromPicture(
-        QImage::fromData(QByteArray::fromBase64(text.mid(at + marker.size()).toLatin1())));
+    return fromBytes(QByteArray::fromBase64(text.mid(at + marker.size()).toLatin1()));
+}
+
+QImage fromFile(const QString& path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return QImage();
+    return fromBytes(file.readAll());
+}
+
+QImage fromBytes(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    if (reader.format().startsWith("svg")) {
+        bytes = withoutOutsideReferences(bytes);
+        if (bytes.isEmpty())
+            return QImage();
+        buffer.close();
+        buffer.setBuffer(&bytes);
+        buffer.open(QIODevice::ReadOnly);
+        reader.setDevice(&buffer);
+    }
+    const QSize size = reader.size();
+    if (size.isValid() && qint64(size.width()) * size.height() > maxPixels)
+        return QImage();
+    return fromPicture(reader.read());
+}
+
+QByteArray withoutOutsideReferences(const QByteArray& svg)
+{
+    QDomDocument document;
+    if (!document.setContent(svg, true))
+        return {};
+    QVector<QDomElement> pending{document.documentElement()};
+    while (!pending.isEmpty()) {
+        QDomElement element = pending.takeLast();
+        const QDomNamedNodeMap attributes = element.attributes();
+        QVector<QDomAttr> outside;
+        for (int i = 0; i < attributes.count(); ++i) {
+            const QDomAttr attribute = attributes.item(i).toAttr();
+            const QString value = attribute.value().trimmed();
+            if (attribute.localName() == QLatin1String("href") && !value.startsWith('#') &&
+                !value.startsWith(QLatin1String("data:")))
+                outside << attribute;
+        }
+        for (const QDomAttr& attribute : qAsConst(outside))
+            element.removeAttributeNode(attribute);
+        for (QDomElement child = element.firstChildElement(); !child.isNull();
+             child = child.nextSiblingElement())
+            pending << child;
+    }
+    return document.toByteArray();
 }
 
 } // namespace WatermarkLogo

@@ -31,6 +31,17 @@ QImage builtIn();
 QImage fromPicture(const QImage& picture);
 // "data:image/png;base64,..." whatever format the logo came from.
 QString toDataUri(const QImage& logo);
-// Any picture format Qt reads, behind "data:...;base64,"; a null image when it does not decode.
+// The largest logo taken, in pixels, read from the picture's header before it is decoded.
+constexpr qint64 maxPixels = 100'000'000;
+// Any picture format Qt reads, behind "data:...;base64,"; a null image when it does not decode
+// or is larger than maxPixels.
 QImage fromDataUri(const QString& text);
+// The picture in a file, by the same rules.
+QImage fromFile(const QString& path);
+// The picture in bytes, by the same rules. An SVG drawing is drawn without anything it names
+// outside itself, so that a flow cannot pull a local file into a photo.
+QImage fromBytes(QByteArray bytes);
+// The SVG with every reference to something outside it (an href that is neither "#..." nor a
+// "data:" URI) taken out; empty when it is not XML.
+QByteArray withoutOutsideReferences(const QByteArray& svg);
 } // namespace WatermarkLogo

@@ -241,6 +241,19 @@
     </message>
 </context>
 <context>
+    <name>BatchOperations</name>
+    <message>
+        <location filename="../../batch/engine/flowoperations.cpp" line="+25"/>
+        <source>&quot;%1&quot; is not an operation: left out</source>
+        <translation>„%1“ ist keine Operation: ausgelassen</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1: the %2 cannot be read: left as it was</source>
+        <translation>%1: %2 ist nicht lesbar: unverändert gelassen</translation>
+    </message>
+</context>
+<context>
     <name>CRPNode</name>
     <message>
         <location filename="../../nodes/params/operations.cpp" line="-63"/>
@@ -741,7 +754,7 @@ Overwrite?</source>
         <translation>Weniger Optionen</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="+47"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+52"/>
         <source>Bold</source>
         <translation>Fett</translation>
     </message>

@@ -241,6 +241,19 @@
     </message>
 </context>
 <context>
+    <name>BatchOperations</name>
+    <message>
+        <location filename="../../batch/engine/flowoperations.cpp" line="+25"/>
+        <source>&quot;%1&quot; is not an operation: left out</source>
+        <translation>«%1» — не операция: пропущена</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1: the %2 cannot be read: left as it was</source>
+        <translation>%1: значение %2 не читается: оставлено как было</translation>
+    </message>
+</context>
+<context>
     <name>CRPNode</name>
     <message>
         <location filename="../../nodes/params/operations.cpp" line="-63"/>
@@ -741,7 +754,7 @@ Overwrite?</source>
         <translation>Меньше параметров</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="+47"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+52"/>
         <source>Bold</source>
         <translation>Жирный</translation>
     </message>

@@ -194,20 +194,24 @@ void TestBatch::engine()
                               "</Parameters>";
     const BatchEngine::Photo grey = BatchEngine::apply(
         TestUtils::filledImage(16, 8, 0xff10e030),
-        {{"Binarization", threshold}, {"Sharpen", active}, {"Grayscale", active}}, 1000);
+        BatchEngine::prepare(
+            {{"Binarization", threshold}, {"Sharpen", active}, {"Grayscale", active}}),
+        1000);
     QCOMPARE_IMAGES(grey.image, TestUtils::filledImage(16, 8, 0xff555555));
 
     // An operation that leaves no image ends the photo there, and says which one it was.
     const QString crop = "<Parameters><Active>yes</Active><Top>60</Top><Bottom>60</Bottom>"
                          "</Parameters>";
-    const BatchEngine::Photo gone = BatchEngine::apply(TestUtils::filledImage(16, 8, 0xff000000),
-                                                       {{"Crop", crop}, {"Invert", active}}, 1000);
+    const BatchEngine::Photo gone =
+        BatchEngine::apply(TestUtils::filledImage(16, 8, 0xff000000),
+                           BatchEngine::prepare({{"Crop", crop}, {"Invert", active}}), 1000);
     QVERIFY(gone.image.isNull());
     QVERIFY2(gone.error.contains("\"Crop\""), qPrintable(gone.error));
     // A 200 % frame on 16 x 8 adds 32 on each side: 80 x 72 is 5760 pixels, refused unmade
     // under a budget of 5000.
     const QString frame = "<Parameters><Active>yes</Active><Width>200</Width></Parameters>";
-    QCOMPARE(BatchEngine::apply(TestUtils::filledImage(16, 8, 0xff000000), {{"Frame", frame}}, 5000)
+    QCOMPARE(BatchEngine::apply(TestUtils::filledImage(16, 8, 0xff000000),
+                                BatchEngine::prepare({{"Frame", frame}}), 5000)
                  .error,
              QString("too large: 80 x 72"));
 
