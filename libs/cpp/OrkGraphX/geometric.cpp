@@ -326,33 +326,32 @@ QImage drawFrame(QImage& image, int percent, QColor colour)
 
 QImage resizeImage(QImage& image, int width, int height, int mode, bool previewMode)
 {
-    if (image.isNull())
+    if (image.isNull() || (previewMode && mode == 1))
         return image;
+    QSize target = resizedSize(image.size(), width, height, mode);
+    // The interactive preview caps the longer requested side at 700 pixels.
+    if (previewMode && mode == 2 && width >= 701)
+        target = QSize(700, int(qint64(height) * 700 / width));
+    else if (previewMode && mode == 2 && height > 700)
+        target = QSize(int(qint64(width) * 700 / height), 700);
+    return image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QSize resizedSize(const QSize& source, int width, int height, int mode)
+{
     switch (mode) {
     case 0:
-        return image.scaled(truncToInt(width / 100.0 * image.width()),
-                            truncToInt(height / 100.0 * image.height()), Qt::IgnoreAspectRatio,
-                            Qt::SmoothTransformation);
+        return {truncToInt(width / 100.0 * source.width()),
+                truncToInt(height / 100.0 * source.height())};
     case 1:
-        if (previewMode)
-            return image;
-        return image.scaled(width, height, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    case 2: {
-        // The interactive preview caps the longer requested side at 700 pixels.
-        qint64 targetWidth = width;
-        qint64 targetHeight = height;
-        if (previewMode && width >= 701) {
-            targetWidth = 700;
-            targetHeight = qint64(height) * 700 / width;
-        } else if (previewMode && height > 700) {
-            targetWidth = qint64(width) * 700 / height;
-            targetHeight = 700;
-        }
-        return image.scaled(int(targetWidth), int(targetHeight), Qt::IgnoreAspectRatio,
-                            Qt::SmoothTransformation);
-    }
+        // As QImage::scaled fits: an empty box gives nothing, no side of a fit is below 1.
+        if (width <= 0 || height <= 0)
+            return {width, height};
+        return source.scaled(width, height, Qt::KeepAspectRatio).expandedTo({1, 1});
+    case 2:
+        return {width, height};
     default:
-        return image;
+        return source;
     }
 }
 
