@@ -167,12 +167,22 @@ const ParamTable<RSZValues>& RSZOperation::table()
                         QT_TRANSLATE_NOOP("RSZNode", "Height:"), ResizeRanges::percentDefault,
                         ResizeRanges::percent, "%");
     width.rangeFor = height.rangeFor = sizeRange;
-    static const ParamTable<RSZValues> table = {mode, width, height};
+    // Written only when checked: flows made before it existed stay byte for byte the same.
+    auto noEnlarge = param("NoEnlarge", &RSZValues::noEnlarge, ParamKind::Toggle, "RSZNode",
+                           QT_TRANSLATE_NOOP("RSZNode", "Never enlarge"), false);
+    noEnlarge.writtenOnlyWhenChanged = true;
+    static const ParamTable<RSZValues> table = {mode, width, height, noEnlarge};
     return table;
 }
 
 QImage RSZOperation::run(QImage image, const RSZValues& values)
 {
+    if (values.noEnlarge && !image.isNull()) {
+        const QSize resized =
+            OrkGraphX::resizedSize(image.size(), values.width, values.height, values.mode);
+        if (resized.width() > image.width() || resized.height() > image.height())
+            return image;
+    }
     return OrkGraphX::resizeImage(image, values.width, values.height, values.mode,
                                   values.previewMode);
 }

@@ -127,6 +127,8 @@ struct RSZValues
     int mode = 0;
     int width = 0;
     int height = 0;
+    // A photo that the resize would make larger, on either side, stays as it is.
+    bool noEnlarge = false;
     // Not stored: whether the sizes are in pixels (modes 1 and 2) rather than percent, which
     // sets their range; it follows the mode only when the mode changes to one of the three.
     bool pixelSizes = false;
