@@ -60,7 +60,9 @@ void addOptions(QCommandLineParser& parser)
         "main",
         "Runs a Pelodine flow over photos and writes the results, as the window's \"Save "
         "Results\" does.\n"
-        "Options that are not given come from the settings of the Pelodine window.\n"
+        "Options that are not given take their defaults: JPEG at quality 90, the photos' own "
+        "names, numbers all; with --use-window-settings they come from the settings of the "
+        "Pelodine window.\n"
         "Progress and a summary go to the standard error; every photo that failed is named "
         "with the reason.\n"
         "Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a "
@@ -89,10 +91,16 @@ void addOptions(QCommandLineParser& parser)
          QCoreApplication::translate("main", "Name the files NAME followed by a number instead "
                                              "of the photo's name."),
          "NAME"},
+        {"no-rename",
+         QCoreApplication::translate("main", "Keep the photos' own names, also where the "
+                                             "window's settings rename.")},
         {"numbers",
          QCoreApplication::translate("main", "The numbers when renaming: all 0, 1, 2, ...; odd "
                                              "1, 3, 5, ...; even 2, 4, 6, ..."),
          "all|odd|even"},
+        {"use-window-settings",
+         QCoreApplication::translate("main", "Take the options that are not given from the "
+                                             "settings of the Pelodine window.")},
         {"quiet", QCoreApplication::translate("main", "Print only the photos that failed.")},
     });
     parser.addPositionalArgument(
@@ -125,11 +133,12 @@ QString readFlow(const QCommandLineParser& parser, Job& job)
     return {};
 }
 
-// The stored settings with the options given on top.
+// The output settings' defaults, or the window's stored settings when asked for, with the
+// options given on top.
 QString readSettings(const QCommandLineParser& parser, Job& job)
 {
     OutputSettings& settings = job.settings;
-    settings = OutputSettings::load();
+    settings = parser.isSet("use-window-settings") ? OutputSettings::load() : OutputSettings();
     if (parser.isSet("format")) {
         const QString format = parser.value("format").toUpper();
         if (!OutputSettings::formats().contains(format))
@@ -143,10 +152,14 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
         if (!ok || settings.quality < 1 || settings.quality > 100)
             return QCoreApplication::translate("main", "the quality must be 1 to 100");
     }
+    if (parser.isSet("rename") && parser.isSet("no-rename"))
+        return QCoreApplication::translate("main", "--rename and --no-rename exclude each other");
     if (parser.isSet("rename")) {
         settings.rename = true;
         settings.newName = parser.value("rename");
     }
+    if (parser.isSet("no-rename"))
+        settings.rename = false;
     if (parser.isSet("numbers")) {
         settings.numbers = QStringList{"all", "odd", "even"}.indexOf(parser.value("numbers"));
         if (settings.numbers < 0)
@@ -157,8 +170,6 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
 
 QString findPhotos(const QStringList& arguments, Job& job)
 {
-    if (arguments.isEmpty())
-        return QCoreApplication::translate("main", "no photos given");
     QList<QUrl> urls;
     for (const QString& argument : arguments)
         urls << QUrl::fromLocalFile(QFileInfo(argument).absoluteFilePath());
@@ -182,7 +193,8 @@ QString makeDestination(const QCommandLineParser& parser, Job& job)
     return {};
 }
 
-QString parseJob(QCommandLineParser& parser, Job& job)
+// The mistakes in the command line's own words, which --help sets right.
+QString readCommandLine(QCommandLineParser& parser, Job& job)
 {
     if (!parser.parse(QCoreApplication::arguments()))
         return parser.errorText();
@@ -191,9 +203,16 @@ QString parseJob(QCommandLineParser& parser, Job& job)
     if (parser.isSet("version"))
         parser.showVersion();
     job.quiet = parser.isSet("quiet");
+    const QString error = readSettings(parser, job);
+    if (error.isEmpty() && parser.positionalArguments().isEmpty())
+        return QCoreApplication::translate("main", "no photos given");
+    return error;
+}
+
+// What the command line names but cannot be had: the flow, the photos, the output folder.
+QString prepareJob(const QCommandLineParser& parser, Job& job)
+{
     QString error = readFlow(parser, job);
-    if (error.isEmpty())
-        error = readSettings(parser, job);
     if (error.isEmpty())
         error = findPhotos(parser.positionalArguments(), job);
     if (error.isEmpty())
@@ -249,9 +268,14 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     addOptions(parser);
     Job job;
-    const QString error = parseJob(parser, job);
+    QString error = readCommandLine(parser, job);
+    const bool badWords = !error.isEmpty();
+    if (!badWords)
+        error = prepareJob(parser, job);
     if (!error.isEmpty()) {
         err() << "pelodine-batch: " << error << Qt::endl;
+        if (badWords)
+            err() << QCoreApplication::translate("main", "see pelodine-batch --help") << Qt::endl;
         return badUsage;
     }
     return run(job);
