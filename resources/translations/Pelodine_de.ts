@@ -90,7 +90,7 @@
 <context>
     <name>BINNode</name>
     <message>
-        <location line="+175"/>
+        <location line="+185"/>
         <source>Threshold:</source>
         <translation>Schwellwert:</translation>
     </message>
@@ -98,7 +98,7 @@
 <context>
     <name>BLRNode</name>
     <message>
-        <location line="-81"/>
+        <location line="-91"/>
         <source>Blur:</source>
         <translation>Unschärfe:</translation>
     </message>
@@ -434,7 +434,7 @@ Overwrite?</source>
 <context>
     <name>MRRNode</name>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="+142"/>
+        <location filename="../../nodes/params/operations.cpp" line="+152"/>
         <source>Mirror left to right</source>
         <translation>Von links nach rechts spiegeln</translation>
     </message>
@@ -480,17 +480,17 @@ Overwrite?</source>
 <context>
     <name>NodeName</name>
     <message>
-        <location filename="../../nodes/params/operations.h" line="+25"/>
+        <location filename="../../nodes/params/operations.h" line="+26"/>
         <source>Brightness, Contrast, Saturation</source>
         <translation>Helligkeit, Kontrast, Sättigung</translation>
     </message>
     <message>
-        <location line="+145"/>
+        <location line="+147"/>
         <source>Binarization</source>
         <translation>Binarisierung</translation>
     </message>
     <message>
-        <location line="-65"/>
+        <location line="-67"/>
         <source>Blur</source>
         <translation>Weichzeichnen</translation>
     </message>
@@ -505,17 +505,17 @@ Overwrite?</source>
         <translation>Rahmen</translation>
     </message>
     <message>
-        <location line="+98"/>
+        <location line="+100"/>
         <source>Grayscale</source>
         <translation>Graustufen</translation>
     </message>
     <message>
-        <location line="-139"/>
+        <location line="-141"/>
         <source>Histogram optimizer</source>
         <translation>Histogramm-Optimierung</translation>
     </message>
     <message>
-        <location line="+146"/>
+        <location line="+148"/>
         <source>Invert</source>
         <translation>Invertieren</translation>
     </message>
@@ -525,17 +525,17 @@ Overwrite?</source>
         <translation>Spiegeln</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-93"/>
         <source>RGB-Order</source>
         <translation>RGB-Reihenfolge</translation>
     </message>
     <message>
-        <location line="+71"/>
+        <location line="+73"/>
         <source>Resize</source>
         <translation>Größe ändern</translation>
     </message>
     <message>
-        <location line="-45"/>
+        <location line="-47"/>
         <source>Rotate</source>
         <translation>Drehen</translation>
     </message>
@@ -589,7 +589,7 @@ Overwrite?</source>
 <context>
     <name>RSZNode</name>
     <message>
-        <location filename="../../nodes/rsznode.cpp" line="+13"/>
+        <location filename="../../nodes/rsznode.cpp" line="+14"/>
         <source>Percentage</source>
         <translation>Prozent</translation>
     </message>
@@ -604,7 +604,7 @@ Overwrite?</source>
         <translation>Pixel</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="-32"/>
+        <location filename="../../nodes/params/operations.cpp" line="-42"/>
         <source>Scale by:</source>
         <translation>Skalieren nach:</translation>
     </message>
@@ -617,6 +617,11 @@ Overwrite?</source>
         <location line="+3"/>
         <source>Height:</source>
         <translation>Höhe:</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Never enlarge</source>
+        <translation>Nie vergrößern</translation>
     </message>
 </context>
 <context>
@@ -664,7 +669,7 @@ Overwrite?</source>
 <context>
     <name>UCSNode</name>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="-33"/>
+        <location filename="../../nodes/params/operations.cpp" line="-38"/>
         <source>Radius:</source>
         <translation>Radius:</translation>
     </message>
@@ -820,20 +825,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+42"/>
-        <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
-Options that are not given come from the settings of the Pelodine window.
-Progress and a summary go to the standard error; every photo that failed is named with the reason.
-Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a flow that cannot be read.
-A source photo is never written over.</source>
-        <translation>Wendet einen Pelodine-Ablauf auf Fotos an und schreibt die Ergebnisse, wie es „Ergebnisse speichern“ im Fenster tut.
-Nicht angegebene Optionen kommen aus den Einstellungen des Pelodine-Fensters.
-Fortschritt und Zusammenfassung gehen auf die Standardfehlerausgabe; jedes fehlgeschlagene Foto wird mit dem Grund genannt.
-Rückgabewert: 0, wenn jedes Foto geschrieben wurde, 1, wenn einige fehlschlugen, 2 bei falscher Verwendung oder einem nicht lesbaren Ablauf.
-Ein Quellfoto wird nie überschrieben.</translation>
-    </message>
-    <message>
-        <location line="+14"/>
+        <location filename="../../app/batchmain.cpp" line="+75"/>
         <source>The flow: a .flow file, or the name of a flow in the flows folder (%1). Default: the built-in sample flow.</source>
         <translation>Der Ablauf: eine .flow-Datei oder der Name eines Ablaufs im Ablaufordner (%1). Standard: der eingebaute Beispielablauf.</translation>
     </message>
@@ -859,11 +851,21 @@ Ein Quellfoto wird nie überschrieben.</translation>
     </message>
     <message>
         <location line="+4"/>
+        <source>Keep the photos&apos; own names, also where the window&apos;s settings rename.</source>
+        <translation>Die eigenen Namen der Fotos behalten, auch wenn die Einstellungen des Fensters umbenennen.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>The numbers when renaming: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</source>
         <translation>Die Nummern beim Umbenennen: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+4"/>
+        <source>Take the options that are not given from the settings of the Pelodine window.</source>
+        <translation>Nicht angegebene Optionen aus den Einstellungen des Pelodine-Fensters übernehmen.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Print only the photos that failed.</source>
         <translation>Nur die fehlgeschlagenen Fotos ausgeben.</translation>
     </message>
@@ -888,7 +890,7 @@ Ein Quellfoto wird nie überschrieben.</translation>
         <translation>%1 ist kein Ablauf: kein wohlgeformtes XML</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+14"/>
         <source>unknown format %1</source>
         <translation>unbekanntes Format %1</translation>
     </message>
@@ -898,27 +900,50 @@ Ein Quellfoto wird nie überschrieben.</translation>
         <translation>die Qualität muss zwischen 1 und 100 liegen</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+3"/>
+        <source>--rename and --no-rename exclude each other</source>
+        <translation>--rename und --no-rename schließen einander aus</translation>
+    </message>
+    <message>
+        <location line="+10"/>
         <source>the numbers must be all, odd or even</source>
         <translation>die Nummern müssen all, odd oder even sein</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+42"/>
         <source>no photos given</source>
         <translation>keine Fotos angegeben</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+70"/>
+        <source>see pelodine-batch --help</source>
+        <translation>siehe pelodine-batch --help</translation>
+    </message>
+    <message>
+        <location line="-98"/>
         <source>no photos in the folders given</source>
         <translation>keine Fotos in den angegebenen Ordnern</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="-121"/>
+        <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
+Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
+Progress and a summary go to the standard error; every photo that failed is named with the reason.
+Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a flow that cannot be read.
+A source photo is never written over.</source>
+        <translation>Wendet einen Pelodine-Ablauf auf Fotos an und schreibt die Ergebnisse, wie es „Ergebnisse speichern“ im Fenster tut.
+Nicht angegebene Optionen haben ihre Standardwerte: JPEG mit Qualität 90, die eigenen Namen der Fotos, Nummern all; mit --use-window-settings kommen sie aus den Einstellungen des Pelodine-Fensters.
+Fortschritt und Zusammenfassung gehen auf die Standardfehlerausgabe; jedes fehlgeschlagene Foto wird mit dem Grund genannt.
+Rückgabewert: 0, wenn jedes Foto geschrieben wurde, 1, wenn einige fehlschlugen, 2 bei falscher Verwendung oder einem nicht lesbaren Ablauf.
+Ein Quellfoto wird nie überschrieben.</translation>
+    </message>
+    <message>
+        <location line="+132"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+46"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>%1 von %2 Fotos nach %3 geschrieben</translation>
     </message>

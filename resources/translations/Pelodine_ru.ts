@@ -90,7 +90,7 @@
 <context>
     <name>BINNode</name>
     <message>
-        <location line="+175"/>
+        <location line="+185"/>
         <source>Threshold:</source>
         <translation>Порог:</translation>
     </message>
@@ -98,7 +98,7 @@
 <context>
     <name>BLRNode</name>
     <message>
-        <location line="-81"/>
+        <location line="-91"/>
         <source>Blur:</source>
         <translation>Размытие:</translation>
     </message>
@@ -434,7 +434,7 @@ Overwrite?</source>
 <context>
     <name>MRRNode</name>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="+142"/>
+        <location filename="../../nodes/params/operations.cpp" line="+152"/>
         <source>Mirror left to right</source>
         <translation>Отразить слева направо</translation>
     </message>
@@ -480,17 +480,17 @@ Overwrite?</source>
 <context>
     <name>NodeName</name>
     <message>
-        <location filename="../../nodes/params/operations.h" line="+25"/>
+        <location filename="../../nodes/params/operations.h" line="+26"/>
         <source>Brightness, Contrast, Saturation</source>
         <translation>Яркость, контраст, насыщенность</translation>
     </message>
     <message>
-        <location line="+145"/>
+        <location line="+147"/>
         <source>Binarization</source>
         <translation>Бинаризация</translation>
     </message>
     <message>
-        <location line="-65"/>
+        <location line="-67"/>
         <source>Blur</source>
         <translation>Размытие</translation>
     </message>
@@ -505,17 +505,17 @@ Overwrite?</source>
         <translation>Рамка</translation>
     </message>
     <message>
-        <location line="+98"/>
+        <location line="+100"/>
         <source>Grayscale</source>
         <translation>Оттенки серого</translation>
     </message>
     <message>
-        <location line="-139"/>
+        <location line="-141"/>
         <source>Histogram optimizer</source>
         <translation>Оптимизация гистограммы</translation>
     </message>
     <message>
-        <location line="+146"/>
+        <location line="+148"/>
         <source>Invert</source>
         <translation>Инверсия</translation>
     </message>
@@ -525,17 +525,17 @@ Overwrite?</source>
         <translation>Отражение</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-93"/>
         <source>RGB-Order</source>
         <translation>Порядок RGB</translation>
     </message>
     <message>
-        <location line="+71"/>
+        <location line="+73"/>
         <source>Resize</source>
         <translation>Изменение размера</translation>
     </message>
     <message>
-        <location line="-45"/>
+        <location line="-47"/>
         <source>Rotate</source>
         <translation>Поворот</translation>
     </message>
@@ -589,7 +589,7 @@ Overwrite?</source>
 <context>
     <name>RSZNode</name>
     <message>
-        <location filename="../../nodes/rsznode.cpp" line="+13"/>
+        <location filename="../../nodes/rsznode.cpp" line="+14"/>
         <source>Percentage</source>
         <translation>Проценты</translation>
     </message>
@@ -604,7 +604,7 @@ Overwrite?</source>
         <translation>Пиксели</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="-32"/>
+        <location filename="../../nodes/params/operations.cpp" line="-42"/>
         <source>Scale by:</source>
         <translation>Масштаб по:</translation>
     </message>
@@ -617,6 +617,11 @@ Overwrite?</source>
         <location line="+3"/>
         <source>Height:</source>
         <translation>Высота:</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Never enlarge</source>
+        <translation>Не увеличивать</translation>
     </message>
 </context>
 <context>
@@ -664,7 +669,7 @@ Overwrite?</source>
 <context>
     <name>UCSNode</name>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="-33"/>
+        <location filename="../../nodes/params/operations.cpp" line="-38"/>
         <source>Radius:</source>
         <translation>Радиус:</translation>
     </message>
@@ -820,20 +825,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+42"/>
-        <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
-Options that are not given come from the settings of the Pelodine window.
-Progress and a summary go to the standard error; every photo that failed is named with the reason.
-Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a flow that cannot be read.
-A source photo is never written over.</source>
-        <translation>Применяет сценарий Pelodine к фото и записывает результаты, как кнопка «Сохранить результаты» в окне.
-Не заданные параметры берутся из настроек окна Pelodine.
-Ход работы и итог выводятся в стандартный поток ошибок; каждое необработанное фото указывается с причиной.
-Код завершения: 0, если записаны все фото, 1, если часть не удалась, 2 при неверном вызове или нечитаемом сценарии.
-Исходное фото никогда не перезаписывается.</translation>
-    </message>
-    <message>
-        <location line="+14"/>
+        <location filename="../../app/batchmain.cpp" line="+75"/>
         <source>The flow: a .flow file, or the name of a flow in the flows folder (%1). Default: the built-in sample flow.</source>
         <translation>Сценарий: файл .flow или имя сценария в папке сценариев (%1). По умолчанию: встроенный пример.</translation>
     </message>
@@ -859,11 +851,21 @@ A source photo is never written over.</source>
     </message>
     <message>
         <location line="+4"/>
+        <source>Keep the photos&apos; own names, also where the window&apos;s settings rename.</source>
+        <translation>Сохранять собственные имена фото, даже если настройки окна переименовывают.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>The numbers when renaming: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</source>
         <translation>Номера при переименовании: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+4"/>
+        <source>Take the options that are not given from the settings of the Pelodine window.</source>
+        <translation>Брать не заданные параметры из настроек окна Pelodine.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Print only the photos that failed.</source>
         <translation>Выводить только необработанные фото.</translation>
     </message>
@@ -888,7 +890,7 @@ A source photo is never written over.</source>
         <translation>%1 — не сценарий: это некорректный XML</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+14"/>
         <source>unknown format %1</source>
         <translation>неизвестный формат %1</translation>
     </message>
@@ -898,27 +900,50 @@ A source photo is never written over.</source>
         <translation>качество должно быть от 1 до 100</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+3"/>
+        <source>--rename and --no-rename exclude each other</source>
+        <translation>--rename и --no-rename исключают друг друга</translation>
+    </message>
+    <message>
+        <location line="+10"/>
         <source>the numbers must be all, odd or even</source>
         <translation>номера должны быть all, odd или even</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+42"/>
         <source>no photos given</source>
         <translation>фото не указаны</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+70"/>
+        <source>see pelodine-batch --help</source>
+        <translation>см. pelodine-batch --help</translation>
+    </message>
+    <message>
+        <location line="-98"/>
         <source>no photos in the folders given</source>
         <translation>в указанных папках нет фото</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="-121"/>
+        <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
+Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
+Progress and a summary go to the standard error; every photo that failed is named with the reason.
+Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a flow that cannot be read.
+A source photo is never written over.</source>
+        <translation>Применяет сценарий Pelodine к фото и записывает результаты, как кнопка «Сохранить результаты» в окне.
+Не заданные параметры принимают значения по умолчанию: JPEG с качеством 90, собственные имена фото, номера all; с --use-window-settings они берутся из настроек окна Pelodine.
+Ход работы и итог выводятся в стандартный поток ошибок; каждое необработанное фото указывается с причиной.
+Код завершения: 0, если записаны все фото, 1, если часть не удалась, 2 при неверном вызове или нечитаемом сценарии.
+Исходное фото никогда не перезаписывается.</translation>
+    </message>
+    <message>
+        <location line="+132"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+46"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>записано %1 из %2 фото в %3</translation>
     </message>
