@@ -4,6 +4,7 @@
 #include "batchengine.h"
 #include "flowfile.h"
 #include "flowoperations.h"
+#include "outputnaming.h"
 #include "outputsettings.h"
 #include "pelodineconfig.h"
 #include "photofiles.h"
@@ -32,7 +33,12 @@ struct Job
     OutputSettings settings;
     QString destination;
     QStringList photos;
+    QString flowPath;
+    // What the flow held that could not be taken.
+    QStringList dropped;
     bool quiet = false;
+    bool overwrite = false;
+    bool lenient = false;
 };
 
 // The tool's own words go to the standard error as it was at start; what the libraries
@@ -60,12 +66,16 @@ void addOptions(QCommandLineParser& parser)
         "main",
         "Runs a Pelodine flow over photos and writes the results, as the window's \"Save "
         "Results\" does.\n"
-        "Options that are not given come from the settings of the Pelodine window.\n"
+        "Options that are not given take their defaults: JPEG at quality 90, the photos' own "
+        "names, numbers all; with --use-window-settings they come from the settings of the "
+        "Pelodine window.\n"
         "Progress and a summary go to the standard error; every photo that failed is named "
         "with the reason.\n"
-        "Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a "
-        "flow that cannot be read.\n"
-        "A source photo is never written over."));
+        "Exit status: 0 when every photo was written, 1 when some failed or the flow holds "
+        "something that cannot be taken (see --lenient), 2 for bad usage or a flow that cannot "
+        "be read.\n"
+        "A source photo is never written over; nothing is written through a link, outside the "
+        "output folder, or over a file this run did not write (see --overwrite)."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({
@@ -89,10 +99,29 @@ void addOptions(QCommandLineParser& parser)
          QCoreApplication::translate("main", "Name the files NAME followed by a number instead "
                                              "of the photo's name."),
          "NAME"},
+        {"no-rename",
+         QCoreApplication::translate("main", "Keep the photos' own names, also where the "
+                                             "window's settings rename.")},
         {"numbers",
          QCoreApplication::translate("main", "The numbers when renaming: all 0, 1, 2, ...; odd "
                                              "1, 3, 5, ...; even 2, 4, 6, ..."),
          "all|odd|even"},
+        {"use-window-settings",
+         QCoreApplication::translate("main", "Take the options that are not given from the "
+                                             "settings of the Pelodine window.")},
+        {"overwrite",
+         QCoreApplication::translate("main", "Replace files in the output folder that this run "
+                                             "did not write.")},
+        {"max-megapixels",
+         QCoreApplication::translate("main", "The largest photo to read, in megapixels, checked "
+                                             "before decoding; a flow may not grow a photo past "
+                                             "it either. Default: %1.")
+             .arg(OutputSettings().maxMegapixels),
+         "N"},
+        {"lenient",
+         QCoreApplication::translate("main", "Run a flow that holds something that cannot be "
+                                             "taken (an unknown operation, a logo that does not "
+                                             "decode) without it, instead of stopping.")},
         {"quiet", QCoreApplication::translate("main", "Print only the photos that failed.")},
     });
     parser.addPositionalArgument(
@@ -118,18 +147,20 @@ QString readFlow(const QCommandLineParser& parser, Job& job)
     if (!FlowFile::readFlowFile(path, &text))
         return QCoreApplication::translate("main", "cannot read the flow %1").arg(path);
     bool ok = false;
-    job.operations = batchOperationsFromFlow(text, &ok);
+    job.operations = batchOperationsFromFlow(text, &ok, &job.dropped);
     if (!ok)
         return QCoreApplication::translate("main", "%1 is not a flow: it is not well-formed XML")
             .arg(path);
+    job.flowPath = path;
     return {};
 }
 
-// The stored settings with the options given on top.
+// The output settings' defaults, or the window's stored settings when asked for, with the
+// options given on top.
 QString readSettings(const QCommandLineParser& parser, Job& job)
 {
     OutputSettings& settings = job.settings;
-    settings = OutputSettings::load();
+    settings = parser.isSet("use-window-settings") ? OutputSettings::load() : OutputSettings();
     if (parser.isSet("format")) {
         const QString format = parser.value("format").toUpper();
         if (!OutputSettings::formats().contains(format))
@@ -143,22 +174,36 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
         if (!ok || settings.quality < 1 || settings.quality > 100)
             return QCoreApplication::translate("main", "the quality must be 1 to 100");
     }
+    if (parser.isSet("rename") && parser.isSet("no-rename"))
+        return QCoreApplication::translate("main", "--rename and --no-rename exclude each other");
     if (parser.isSet("rename")) {
         settings.rename = true;
         settings.newName = parser.value("rename");
+        if (!OutputNaming::staysInFolder(settings.newName))
+            return QCoreApplication::translate("main", "the new name must not hold \"/\" or be "
+                                                       "\".\" or \"..\"");
     }
+    if (parser.isSet("no-rename"))
+        settings.rename = false;
     if (parser.isSet("numbers")) {
         settings.numbers = QStringList{"all", "odd", "even"}.indexOf(parser.value("numbers"));
         if (settings.numbers < 0)
             return QCoreApplication::translate("main", "the numbers must be all, odd or even");
     }
+    if (parser.isSet("max-megapixels")) {
+        bool ok = false;
+        settings.maxMegapixels = parser.value("max-megapixels").toInt(&ok);
+        if (!ok || settings.maxMegapixels < 1)
+            return QCoreApplication::translate("main", "the megapixels must be a whole number "
+                                                       "of at least 1");
+    }
+    job.overwrite = parser.isSet("overwrite");
+    job.lenient = parser.isSet("lenient");
     return {};
 }
 
 QString findPhotos(const QStringList& arguments, Job& job)
 {
-    if (arguments.isEmpty())
-        return QCoreApplication::translate("main", "no photos given");
     QList<QUrl> urls;
     for (const QString& argument : arguments)
         urls << QUrl::fromLocalFile(QFileInfo(argument).absoluteFilePath());
@@ -172,17 +217,23 @@ QString findPhotos(const QStringList& arguments, Job& job)
 
 QString makeDestination(const QCommandLineParser& parser, Job& job)
 {
-    job.destination = parser.isSet("output")
-                          ? QDir(parser.value("output")).absolutePath() + "/"
-                          : OrkTools::AppData::outputBaseFolder() +
-                                QDateTime::currentDateTime().toString("yyyy-MM-dd_hh-mm-ss") + "/";
-    if (!QDir().mkpath(job.destination))
-        return QCoreApplication::translate("main", "cannot create the folder %1")
-            .arg(job.destination);
-    return {};
+    // A time-stamped folder is this run's alone, not shared with a run of the same second.
+    if (parser.isSet("output")) {
+        job.destination = QDir(parser.value("output")).absolutePath() + "/";
+        if (QDir().mkpath(job.destination))
+            return {};
+    } else {
+        job.destination = BatchEngine::createRunFolder(OrkTools::AppData::outputBaseFolder(),
+                                                       QDateTime::currentDateTime(), true);
+        if (!job.destination.isEmpty())
+            return {};
+    }
+    return QCoreApplication::translate("main", "cannot create the folder %1")
+        .arg(parser.isSet("output") ? job.destination : OrkTools::AppData::outputBaseFolder());
 }
 
-QString parseJob(QCommandLineParser& parser, Job& job)
+// The mistakes in the command line's own words, which --help sets right.
+QString readCommandLine(QCommandLineParser& parser, Job& job)
 {
     if (!parser.parse(QCoreApplication::arguments()))
         return parser.errorText();
@@ -191,9 +242,16 @@ QString parseJob(QCommandLineParser& parser, Job& job)
     if (parser.isSet("version"))
         parser.showVersion();
     job.quiet = parser.isSet("quiet");
+    const QString error = readSettings(parser, job);
+    if (error.isEmpty() && parser.positionalArguments().isEmpty())
+        return QCoreApplication::translate("main", "no photos given");
+    return error;
+}
+
+// What the command line names but cannot be had: the flow, the photos, the output folder.
+QString prepareJob(const QCommandLineParser& parser, Job& job)
+{
     QString error = readFlow(parser, job);
-    if (error.isEmpty())
-        error = readSettings(parser, job);
     if (error.isEmpty())
         error = findPhotos(parser.positionalArguments(), job);
     if (error.isEmpty())
@@ -201,10 +259,25 @@ QString parseJob(QCommandLineParser& parser, Job& job)
     return error;
 }
 
+// What the flow held that could not be taken is named; without --lenient nothing is written.
+bool acceptFlow(const Job& job)
+{
+    for (const QString& note : job.dropped)
+        err() << "pelodine-batch: " << job.flowPath << ": " << note << Qt::endl;
+    if (job.dropped.isEmpty() || job.lenient)
+        return true;
+    err() << QCoreApplication::translate("main", "pelodine-batch: nothing written; --lenient runs "
+                                                 "the flow without what was left out")
+          << Qt::endl;
+    return false;
+}
+
 int run(const Job& job)
 {
+    if (!acceptFlow(job))
+        return someFailed;
     BatchEngine engine(job.photos, job.operations, job.settings, job.destination,
-                       {true, false, job.settings.pixelBudget()});
+                       {true, job.overwrite, job.settings.pixelBudget()});
     QStringList failures;
     const int count = engine.count();
     for (int i = 0; i < count; ++i) {
@@ -250,9 +323,14 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     addOptions(parser);
     Job job;
-    const QString error = parseJob(parser, job);
+    QString error = readCommandLine(parser, job);
+    const bool badWords = !error.isEmpty();
+    if (!badWords)
+        error = prepareJob(parser, job);
     if (!error.isEmpty()) {
         err() << "pelodine-batch: " << error << Qt::endl;
+        if (badWords)
+            err() << QCoreApplication::translate("main", "see pelodine-batch --help") << Qt::endl;
         return badUsage;
     }
     return run(job);

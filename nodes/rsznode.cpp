@@ -3,6 +3,7 @@
 #include "commondata.h"
 #include "ui/comboslider.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 
@@ -18,9 +19,13 @@ RSZNode::RSZNode(QWidget* parent)
     width = addSliderRow(this, form, key("Width").translatedCaption(), sliderRange(key("Width")));
     height =
         addSliderRow(this, form, key("Height").translatedCaption(), sliderRange(key("Height")));
+    auto* noEnlarge = new QCheckBox(key("NoEnlarge").translatedCaption(), this);
+    form->addRow(QString(), noEnlarge);
     bindControl("Mode", modeCombo);
     bindControl("Width", width);
     bindControl("Height", height);
+    bindControl("NoEnlarge", noEnlarge);
+    connect(noEnlarge, &QCheckBox::toggled, this, &BaseNode::parametersChanged);
     connect(modeCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &RSZNode::slotComboItemChanged);
 }

@@ -1,4 +1,4 @@
-// "Resize": by percentage, to fit a maximum size, or to exact pixels.
+// "Resize": by percentage, to fit a maximum size, or to exact pixels; if asked, never larger.
 #pragma once
 
 #include "keyednode.h"

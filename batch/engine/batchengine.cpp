@@ -134,13 +134,11 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
         return {false, writeError(file)};
     QImageWriter writer(&file, settings.format.toLatin1());
     writer.setQuality(settings.writerQuality());
-    if (!writer.write(image)) {
-        const QString reason = file.error() != QFileDevice::NoError
-                                   ? writeError(file)
-                                   : tr("cannot write: %1").arg(writer.errorString());
+    if (!writer.write(image) && file.error() == QFileDevice::NoError) {
         file.cancelWriting();
-        return {false, reason};
+        return {false, tr("cannot write: %1").arg(writer.errorString())};
     }
+    // A failed write (a full disk) gives its reason at commit, which then leaves no file.
     if (!file.commit())
         return {false, writeError(file)};
     writtenPaths.insert(absolute);

@@ -27,7 +27,7 @@ QSize sizeAfter(const FRMValues& values, const QSize& size)
 
 QSize sizeAfter(const RSZValues& values, const QSize& size)
 {
-    return OrkGraphX::resizedSize(size, values.width, values.height, values.mode, false);
+    return RSZOperation::resultSize(values, size);
 }
 
 // The values start at zero and are taken from the text once; the operation's one mapping then

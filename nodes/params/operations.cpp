@@ -167,14 +167,35 @@ const ParamTable<RSZValues>& RSZOperation::table()
                         QT_TRANSLATE_NOOP("RSZNode", "Height:"), ResizeRanges::percentDefault,
                         ResizeRanges::percent, "%");
     width.rangeFor = height.rangeFor = sizeRange;
-    static const ParamTable<RSZValues> table = {mode, width, height};
+    // Written only when checked: flows made before it existed stay byte for byte the same.
+    auto noEnlarge = param("NoEnlarge", &RSZValues::noEnlarge, ParamKind::Toggle, "RSZNode",
+                           QT_TRANSLATE_NOOP("RSZNode", "Never enlarge"), false);
+    noEnlarge.writtenOnlyWhenChanged = true;
+    static const ParamTable<RSZValues> table = {mode, width, height, noEnlarge};
     return table;
 }
 
 QImage RSZOperation::run(QImage image, const RSZValues& values)
 {
+    if (!image.isNull() && keepsSize(values, image.size()))
+        return image;
     return OrkGraphX::resizeImage(image, values.width, values.height, values.mode,
                                   values.previewMode);
+}
+
+bool RSZOperation::keepsSize(const RSZValues& values, const QSize& size)
+{
+    if (!values.noEnlarge)
+        return false;
+    const QSize resized = OrkGraphX::resizedSize(size, values.width, values.height, values.mode);
+    return resized.width() > size.width() || resized.height() > size.height();
+}
+
+QSize RSZOperation::resultSize(const RSZValues& values, const QSize& size)
+{
+    return keepsSize(values, size)
+               ? size
+               : OrkGraphX::resizedSize(size, values.width, values.height, values.mode);
 }
 
 const ParamTable<MRRValues>& MRROperation::table()

@@ -127,6 +127,8 @@ struct RSZValues
     int mode = 0;
     int width = 0;
     int height = 0;
+    // A photo that the resize would make larger, on either side, stays as it is.
+    bool noEnlarge = false;
     // Not stored: whether the sizes are in pixels (modes 1 and 2) rather than percent, which
     // sets their range; it follows the mode only when the mode changes to one of the three.
     bool pixelSizes = false;
@@ -139,6 +141,13 @@ struct RSZOperation
     static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Resize");
     static const ParamTable<Values>& table();
     static QImage run(QImage image, const Values& values);
+    // The full-size result's size; a photo that "Never enlarge" keeps keeps its size.
+    static QSize resultSize(const Values& values, const QSize& size);
+
+private:
+    // Whether "Never enlarge" leaves a photo of size as it is: the resize would make it
+    // larger on either side.
+    static bool keepsSize(const Values& values, const QSize& size);
 };
 
 namespace ResizeRanges {

@@ -80,6 +80,9 @@ template <typename Values> struct Param
     std::function<ParamRange(const Values&)> rangeFor;
     // What loading this key does to the other values (Resize's mode resets the sizes).
     std::function<void(Values&, const QVariant& before)> afterLoad;
+    // A key added to an operation later is left out of the text while it holds its default, so
+    // that the text of a node that does not use it stays what it was before the key existed.
+    bool writtenOnlyWhenChanged = false;
 
     ParamRange rangeIn(const Values& values) const { return rangeFor ? rangeFor(values) : range; }
     QString translatedCaption() const;
@@ -196,14 +199,17 @@ public:
         return parsed;
     }
 
-    // One child per key, in table order; every child gets a text node, even an empty one,
-    // so that it is written as a start and end tag pair.
+    // One child per key, in table order, but for a key written only when changed that holds
+    // its default; every child gets a text node, even an empty one, so that it is written as a
+    // start and end tag pair.
     void save(const Values& values, QDomElement& parameters, QDomDocument& document) const
     {
         for (const Row& row : rows) {
+            const QString text = row.textOf ? row.textOf(values) : row.text.write(row.get(values));
+            if (row.writtenOnlyWhenChanged && text == row.text.write(row.uiDefault))
+                continue;
             QDomElement child = document.createElement(row.name);
-            child.appendChild(document.createTextNode(
-                row.textOf ? row.textOf(values) : row.text.write(row.get(values))));
+            child.appendChild(document.createTextNode(text));
             parameters.appendChild(child);
         }
     }

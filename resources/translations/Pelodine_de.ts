@@ -90,7 +90,7 @@
 <context>
     <name>BINNode</name>
     <message>
-        <location line="+175"/>
+        <location line="+196"/>
         <source>Threshold:</source>
         <translation>Schwellwert:</translation>
     </message>
@@ -98,7 +98,7 @@
 <context>
     <name>BLRNode</name>
     <message>
-        <location line="-81"/>
+        <location line="-102"/>
         <source>Blur:</source>
         <translation>Unschärfe:</translation>
     </message>
@@ -160,12 +160,12 @@
     </message>
     <message>
         <location line="-75"/>
-        <location line="+96"/>
+        <location line="+95"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
     <message>
-        <location line="-107"/>
+        <location line="-106"/>
         <source>too large: %1 x %2</source>
         <translation>zu groß: %1 x %2</translation>
     </message>
@@ -200,7 +200,7 @@
         <translation>Schreiben nicht möglich: %1 existiert bereits</translation>
     </message>
     <message>
-        <location line="+27"/>
+        <location line="+25"/>
         <source>unreadable: not a regular file</source>
         <translation>nicht lesbar: keine normale Datei</translation>
     </message>
@@ -501,7 +501,7 @@ Overwrite?</source>
 <context>
     <name>MRRNode</name>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="+142"/>
+        <location filename="../../nodes/params/operations.cpp" line="+163"/>
         <source>Mirror left to right</source>
         <translation>Von links nach rechts spiegeln</translation>
     </message>
@@ -552,12 +552,12 @@ Overwrite?</source>
         <translation>Helligkeit, Kontrast, Sättigung</translation>
     </message>
     <message>
-        <location line="+145"/>
+        <location line="+154"/>
         <source>Binarization</source>
         <translation>Binarisierung</translation>
     </message>
     <message>
-        <location line="-65"/>
+        <location line="-74"/>
         <source>Blur</source>
         <translation>Weichzeichnen</translation>
     </message>
@@ -572,17 +572,17 @@ Overwrite?</source>
         <translation>Rahmen</translation>
     </message>
     <message>
-        <location line="+98"/>
+        <location line="+107"/>
         <source>Grayscale</source>
         <translation>Graustufen</translation>
     </message>
     <message>
-        <location line="-139"/>
+        <location line="-148"/>
         <source>Histogram optimizer</source>
         <translation>Histogramm-Optimierung</translation>
     </message>
     <message>
-        <location line="+146"/>
+        <location line="+155"/>
         <source>Invert</source>
         <translation>Invertieren</translation>
     </message>
@@ -592,17 +592,17 @@ Overwrite?</source>
         <translation>Spiegeln</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-100"/>
         <source>RGB-Order</source>
         <translation>RGB-Reihenfolge</translation>
     </message>
     <message>
-        <location line="+71"/>
+        <location line="+73"/>
         <source>Resize</source>
         <translation>Größe ändern</translation>
     </message>
     <message>
-        <location line="-45"/>
+        <location line="-47"/>
         <source>Rotate</source>
         <translation>Drehen</translation>
     </message>
@@ -656,7 +656,7 @@ Overwrite?</source>
 <context>
     <name>RSZNode</name>
     <message>
-        <location filename="../../nodes/rsznode.cpp" line="+13"/>
+        <location filename="../../nodes/rsznode.cpp" line="+14"/>
         <source>Percentage</source>
         <translation>Prozent</translation>
     </message>
@@ -671,7 +671,7 @@ Overwrite?</source>
         <translation>Pixel</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="-32"/>
+        <location filename="../../nodes/params/operations.cpp" line="-53"/>
         <source>Scale by:</source>
         <translation>Skalieren nach:</translation>
     </message>
@@ -684,6 +684,11 @@ Overwrite?</source>
         <location line="+3"/>
         <source>Height:</source>
         <translation>Höhe:</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Never enlarge</source>
+        <translation>Nie vergrößern</translation>
     </message>
 </context>
 <context>
@@ -731,7 +736,7 @@ Overwrite?</source>
 <context>
     <name>UCSNode</name>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="-33"/>
+        <location filename="../../nodes/params/operations.cpp" line="-38"/>
         <source>Radius:</source>
         <translation>Radius:</translation>
     </message>
@@ -887,20 +892,20 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+59"/>
+        <location filename="../../app/batchmain.cpp" line="+65"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
-Options that are not given come from the settings of the Pelodine window.
+Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
-Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a flow that cannot be read.
-A source photo is never written over.</source>
-        <translation>Wendet einen Pelodine-Ablauf auf Fotos an und schreibt die Ergebnisse, wie es „Ergebnisse speichern“ im Fenster tut.
-Nicht angegebene Optionen kommen aus den Einstellungen des Pelodine-Fensters.
-Fortschritt und Zusammenfassung gehen auf die Standardfehlerausgabe; jedes fehlgeschlagene Foto wird mit dem Grund genannt.
-Rückgabewert: 0, wenn jedes Foto geschrieben wurde, 1, wenn einige fehlschlugen, 2 bei falscher Verwendung oder einem nicht lesbaren Ablauf.
-Ein Quellfoto wird nie überschrieben.</translation>
+Exit status: 0 when every photo was written, 1 when some failed or the flow holds something that cannot be taken (see --lenient), 2 for bad usage or a flow that cannot be read.
+A source photo is never written over; nothing is written through a link, outside the output folder, or over a file this run did not write (see --overwrite).</source>
+        <translation>Führt einen Pelodine-Ablauf über Fotos aus und schreibt die Ergebnisse, wie es „Ergebnisse speichern“ im Fenster tut.
+Nicht angegebene Optionen nehmen ihre Vorgaben: JPEG mit Qualität 90, die eigenen Namen der Fotos, Nummern all; mit --use-window-settings kommen sie aus den Einstellungen des Pelodine-Fensters.
+Fortschritt und Zusammenfassung gehen auf die Standardfehlerausgabe; jedes Foto, das scheiterte, wird mit dem Grund genannt.
+Rückgabewert: 0, wenn jedes Foto geschrieben wurde, 1, wenn manche scheiterten oder der Ablauf etwas enthält, das nicht übernommen werden kann (siehe --lenient), 2 bei falscher Verwendung oder einem Ablauf, der nicht gelesen werden kann.
+Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, außerhalb des Ausgabeordners oder über eine Datei geschrieben, die dieser Lauf nicht geschrieben hat (siehe --overwrite).</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+18"/>
         <source>The flow: a .flow file, or the name of a flow in the flows folder (%1). Default: the built-in sample flow.</source>
         <translation>Der Ablauf: eine .flow-Datei oder der Name eines Ablaufs im Ablaufordner (%1). Standard: der eingebaute Beispielablauf.</translation>
     </message>
@@ -926,8 +931,33 @@ Ein Quellfoto wird nie überschrieben.</translation>
     </message>
     <message>
         <location line="+4"/>
+        <source>Keep the photos&apos; own names, also where the window&apos;s settings rename.</source>
+        <translation>Die eigenen Namen der Fotos behalten, auch wenn die Einstellungen des Fensters umbenennen.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>The numbers when renaming: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</source>
         <translation>Die Nummern beim Umbenennen: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Take the options that are not given from the settings of the Pelodine window.</source>
+        <translation>Nicht angegebene Optionen aus den Einstellungen des Pelodine-Fensters übernehmen.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Replace files in the output folder that this run did not write.</source>
+        <translation>Dateien im Ausgabeordner ersetzen, die dieser Lauf nicht geschrieben hat.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The largest photo to read, in megapixels, checked before decoding; a flow may not grow a photo past it either. Default: %1.</source>
+        <translation>Das größte Foto, das gelesen wird, in Megapixeln, vor dem Dekodieren geprüft; auch ein Ablauf darf ein Foto nicht darüber hinaus vergrößern. Vorgabe: %1.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Run a flow that holds something that cannot be taken (an unknown operation, a logo that does not decode) without it, instead of stopping.</source>
+        <translation>Einen Ablauf, der etwas enthält, das nicht übernommen werden kann (eine unbekannte Operation, ein Logo, das sich nicht dekodieren lässt), ohne dieses ausführen, statt anzuhalten.</translation>
     </message>
     <message>
         <location line="+3"/>
@@ -955,7 +985,7 @@ Ein Quellfoto wird nie überschrieben.</translation>
         <translation>%1 ist kein Ablauf: kein wohlgeformtes XML</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>unknown format %1</source>
         <translation>unbekanntes Format %1</translation>
     </message>
@@ -965,27 +995,52 @@ Ein Quellfoto wird nie überschrieben.</translation>
         <translation>die Qualität muss zwischen 1 und 100 liegen</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+3"/>
+        <source>--rename and --no-rename exclude each other</source>
+        <translation>--rename und --no-rename schließen einander aus</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>the new name must not hold &quot;/&quot; or be &quot;.&quot; or &quot;..&quot;</source>
+        <translation>der neue Name darf kein „/“ enthalten und nicht „.“ oder „..“ sein</translation>
+    </message>
+    <message>
+        <location line="+8"/>
         <source>the numbers must be all, odd or even</source>
         <translation>die Nummern müssen all, odd oder even sein</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+6"/>
+        <source>the megapixels must be a whole number of at least 1</source>
+        <translation>die Megapixel müssen eine ganze Zahl von mindestens 1 sein</translation>
+    </message>
+    <message>
+        <location line="+50"/>
         <source>no photos given</source>
         <translation>keine Fotos angegeben</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+22"/>
+        <source>pelodine-batch: nothing written; --lenient runs the flow without what was left out</source>
+        <translation>pelodine-batch: nichts geschrieben; --lenient führt den Ablauf ohne das Ausgelassene aus</translation>
+    </message>
+    <message>
+        <location line="+64"/>
+        <source>see pelodine-batch --help</source>
+        <translation>siehe pelodine-batch --help</translation>
+    </message>
+    <message>
+        <location line="-119"/>
         <source>no photos in the folders given</source>
         <translation>keine Fotos in den angegebenen Ordnern</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+17"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+61"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>%1 von %2 Fotos nach %3 geschrieben</translation>
     </message>

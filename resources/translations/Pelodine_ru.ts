@@ -90,7 +90,7 @@
 <context>
     <name>BINNode</name>
     <message>
-        <location line="+175"/>
+        <location line="+196"/>
         <source>Threshold:</source>
         <translation>Порог:</translation>
     </message>
@@ -98,7 +98,7 @@
 <context>
     <name>BLRNode</name>
     <message>
-        <location line="-81"/>
+        <location line="-102"/>
         <source>Blur:</source>
         <translation>Размытие:</translation>
     </message>
@@ -160,12 +160,12 @@
     </message>
     <message>
         <location line="-75"/>
-        <location line="+96"/>
+        <location line="+95"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
     <message>
-        <location line="-107"/>
+        <location line="-106"/>
         <source>too large: %1 x %2</source>
         <translation>слишком большое: %1 x %2</translation>
     </message>
@@ -200,7 +200,7 @@
         <translation>запись невозможна: %1 уже существует</translation>
     </message>
     <message>
-        <location line="+27"/>
+        <location line="+25"/>
         <source>unreadable: not a regular file</source>
         <translation>не читается: не обычный файл</translation>
     </message>
@@ -501,7 +501,7 @@ Overwrite?</source>
 <context>
     <name>MRRNode</name>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="+142"/>
+        <location filename="../../nodes/params/operations.cpp" line="+163"/>
         <source>Mirror left to right</source>
         <translation>Отразить слева направо</translation>
     </message>
@@ -552,12 +552,12 @@ Overwrite?</source>
         <translation>Яркость, контраст, насыщенность</translation>
     </message>
     <message>
-        <location line="+145"/>
+        <location line="+154"/>
         <source>Binarization</source>
         <translation>Бинаризация</translation>
     </message>
     <message>
-        <location line="-65"/>
+        <location line="-74"/>
         <source>Blur</source>
         <translation>Размытие</translation>
     </message>
@@ -572,17 +572,17 @@ Overwrite?</source>
         <translation>Рамка</translation>
     </message>
     <message>
-        <location line="+98"/>
+        <location line="+107"/>
         <source>Grayscale</source>
         <translation>Оттенки серого</translation>
     </message>
     <message>
-        <location line="-139"/>
+        <location line="-148"/>
         <source>Histogram optimizer</source>
         <translation>Оптимизация гистограммы</translation>
     </message>
     <message>
-        <location line="+146"/>
+        <location line="+155"/>
         <source>Invert</source>
         <translation>Инверсия</translation>
     </message>
@@ -592,17 +592,17 @@ Overwrite?</source>
         <translation>Отражение</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-100"/>
         <source>RGB-Order</source>
         <translation>Порядок RGB</translation>
     </message>
     <message>
-        <location line="+71"/>
+        <location line="+73"/>
         <source>Resize</source>
         <translation>Изменение размера</translation>
     </message>
     <message>
-        <location line="-45"/>
+        <location line="-47"/>
         <source>Rotate</source>
         <translation>Поворот</translation>
     </message>
@@ -656,7 +656,7 @@ Overwrite?</source>
 <context>
     <name>RSZNode</name>
     <message>
-        <location filename="../../nodes/rsznode.cpp" line="+13"/>
+        <location filename="../../nodes/rsznode.cpp" line="+14"/>
         <source>Percentage</source>
         <translation>Проценты</translation>
     </message>
@@ -671,7 +671,7 @@ Overwrite?</source>
         <translation>Пиксели</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="-32"/>
+        <location filename="../../nodes/params/operations.cpp" line="-53"/>
         <source>Scale by:</source>
         <translation>Масштаб по:</translation>
     </message>
@@ -684,6 +684,11 @@ Overwrite?</source>
         <location line="+3"/>
         <source>Height:</source>
         <translation>Высота:</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Never enlarge</source>
+        <translation>Не увеличивать</translation>
     </message>
 </context>
 <context>
@@ -731,7 +736,7 @@ Overwrite?</source>
 <context>
     <name>UCSNode</name>
     <message>
-        <location filename="../../nodes/params/operations.cpp" line="-33"/>
+        <location filename="../../nodes/params/operations.cpp" line="-38"/>
         <source>Radius:</source>
         <translation>Радиус:</translation>
     </message>
@@ -887,20 +892,20 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+59"/>
+        <location filename="../../app/batchmain.cpp" line="+65"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
-Options that are not given come from the settings of the Pelodine window.
+Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
-Exit status: 0 when every photo was written, 1 when some failed, 2 for bad usage or a flow that cannot be read.
-A source photo is never written over.</source>
-        <translation>Применяет сценарий Pelodine к фото и записывает результаты, как кнопка «Сохранить результаты» в окне.
-Не заданные параметры берутся из настроек окна Pelodine.
-Ход работы и итог выводятся в стандартный поток ошибок; каждое необработанное фото указывается с причиной.
-Код завершения: 0, если записаны все фото, 1, если часть не удалась, 2 при неверном вызове или нечитаемом сценарии.
-Исходное фото никогда не перезаписывается.</translation>
+Exit status: 0 when every photo was written, 1 when some failed or the flow holds something that cannot be taken (see --lenient), 2 for bad usage or a flow that cannot be read.
+A source photo is never written over; nothing is written through a link, outside the output folder, or over a file this run did not write (see --overwrite).</source>
+        <translation>Применяет поток Pelodine к фотографиям и записывает результаты, как это делает «Сохранить результаты» в окне.
+Неуказанные параметры берут значения по умолчанию: JPEG с качеством 90, собственные имена фотографий, номера all; с --use-window-settings они берутся из настроек окна Pelodine.
+Ход работы и итог выводятся в стандартный поток ошибок; каждая фотография, которую не удалось обработать, названа с причиной.
+Код выхода: 0, если записаны все фотографии, 1, если некоторые не удалось или поток содержит то, что нельзя принять (см. --lenient), 2 при неверном использовании или если поток не читается.
+Исходная фотография никогда не перезаписывается; ничего не пишется через ссылку, за пределы папки результатов или поверх файла, который этот запуск не записывал (см. --overwrite).</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+18"/>
         <source>The flow: a .flow file, or the name of a flow in the flows folder (%1). Default: the built-in sample flow.</source>
         <translation>Сценарий: файл .flow или имя сценария в папке сценариев (%1). По умолчанию: встроенный пример.</translation>
     </message>
@@ -926,8 +931,33 @@ A source photo is never written over.</source>
     </message>
     <message>
         <location line="+4"/>
+        <source>Keep the photos&apos; own names, also where the window&apos;s settings rename.</source>
+        <translation>Сохранять собственные имена фото, даже если настройки окна переименовывают.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>The numbers when renaming: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</source>
         <translation>Номера при переименовании: all 0, 1, 2, ...; odd 1, 3, 5, ...; even 2, 4, 6, ...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Take the options that are not given from the settings of the Pelodine window.</source>
+        <translation>Брать не заданные параметры из настроек окна Pelodine.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Replace files in the output folder that this run did not write.</source>
+        <translation>Заменять файлы в папке результатов, которые этот запуск не записывал.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The largest photo to read, in megapixels, checked before decoding; a flow may not grow a photo past it either. Default: %1.</source>
+        <translation>Самая большая фотография для чтения, в мегапикселях, проверяется до декодирования; поток тоже не может увеличить фотографию сверх этого. По умолчанию: %1.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Run a flow that holds something that cannot be taken (an unknown operation, a logo that does not decode) without it, instead of stopping.</source>
+        <translation>Выполнять поток, содержащий то, что нельзя принять (неизвестную операцию, недекодируемый логотип), без этого, а не останавливаться.</translation>
     </message>
     <message>
         <location line="+3"/>
@@ -955,7 +985,7 @@ A source photo is never written over.</source>
         <translation>%1 — не сценарий: это некорректный XML</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>unknown format %1</source>
         <translation>неизвестный формат %1</translation>
     </message>
@@ -965,27 +995,52 @@ A source photo is never written over.</source>
         <translation>качество должно быть от 1 до 100</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+3"/>
+        <source>--rename and --no-rename exclude each other</source>
+        <translation>--rename и --no-rename исключают друг друга</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>the new name must not hold &quot;/&quot; or be &quot;.&quot; or &quot;..&quot;</source>
+        <translation>новое имя не должно содержать «/» или быть «.» или «..»</translation>
+    </message>
+    <message>
+        <location line="+8"/>
         <source>the numbers must be all, odd or even</source>
         <translation>номера должны быть all, odd или even</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+6"/>
+        <source>the megapixels must be a whole number of at least 1</source>
+        <translation>мегапиксели должны быть целым числом не меньше 1</translation>
+    </message>
+    <message>
+        <location line="+50"/>
         <source>no photos given</source>
         <translation>фото не указаны</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+22"/>
+        <source>pelodine-batch: nothing written; --lenient runs the flow without what was left out</source>
+        <translation>pelodine-batch: ничего не записано; --lenient выполняет поток без пропущенного</translation>
+    </message>
+    <message>
+        <location line="+64"/>
+        <source>see pelodine-batch --help</source>
+        <translation>см. pelodine-batch --help</translation>
+    </message>
+    <message>
+        <location line="-119"/>
         <source>no photos in the folders given</source>
         <translation>в указанных папках нет фото</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+17"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+61"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>записано %1 из %2 фото в %3</translation>
     </message>

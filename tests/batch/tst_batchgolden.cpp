@@ -76,7 +76,7 @@ void TestBatchGolden::outputsAreUnchanged()
     QProcess batch;
     batch.start(PELODINE_BATCH_PATH,
                 QStringList{"--flow", QFINDTESTDATA("golden/" + flow + ".flow"), "--output", folder,
-                            "--quiet"} +
+                            "--quiet", "--lenient"} +
                     options + photos);
     QVERIFY(batch.waitForFinished(120000));
 

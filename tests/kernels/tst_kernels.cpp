@@ -376,6 +376,8 @@ private slots:
         QTest::addColumn<QSize>("expected"); // empty: the image comes back unchanged
         addRow("percent truncates", QSize(105, 55), 0, QSize(50, 50), false, QSize(52, 27));
         addRow("maximum keeps aspect", QSize(200, 100), 1, QSize(300, 300), false, QSize(300, 150));
+        // 200 x 2 into 50 x 50 would be 50 x 0.5: no side of a fit goes below one pixel.
+        addRow("maximum at least 1", QSize(200, 2), 1, QSize(50, 50), false, QSize(50, 1));
         addRow("maximum skipped in preview", QSize(200, 100), 1, QSize(30, 30), true, QSize());
         // The preview caps the longer requested side at 700.
         addRow("preview caps width", QSize(90, 60), 2, QSize(1000, 500), true, QSize(700, 350));

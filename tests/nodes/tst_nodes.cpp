@@ -171,7 +171,7 @@ private slots:
         TestUtils::addRow("Watermark logo", "Watermark", "Mode=1|" + watermark, "");
         // The translations know the bottom margin by its old spelling.
         TestUtils::addRow("Crop", "Crop", "Left=5|Right=10|Top=15|Bottom=20", "Buttom:");
-        TestUtils::addRow("Resize", "Resize", "Mode=1|Width=40|Height=20", "");
+        TestUtils::addRow("Resize", "Resize", "Mode=1|Width=40|Height=20|NoEnlarge=yes", "");
         TestUtils::addRow("Histogram", "Histogram optimizer", "Left=10|Right=30", "");
         TestUtils::addRow("Frame", "Frame", "Width=12|Color=#102030", "");
         TestUtils::addRow("Binarization", "Binarization", "Threshold=200", "");
@@ -399,6 +399,40 @@ private slots:
         node->process(preview);
         QCOMPARE(preview.size(), QSize(48, 36));
         QCOMPARE(applyOperation("Resize", photo(48, 36), text).size(), QSize(20, 15));
+    }
+
+    void neverEnlarge_data()
+    {
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QSize>("size"); // of an 800 x 600 photo's result; empty: the photo itself
+        TestUtils::addRow("box 1600 enlarges", "Mode=1|Width=1600|Height=1600", QSize(1600, 1200));
+        TestUtils::addRow("inside the box", "Mode=1|Width=1600|Height=1600|NoEnlarge=yes", QSize());
+        TestUtils::addRow("box 400 shrinks", "Mode=1|Width=400|Height=400|NoEnlarge=yes",
+                          QSize(400, 300));
+        TestUtils::addRow("150 percent", "Mode=0|Width=150|Height=150|NoEnlarge=yes", QSize());
+        TestUtils::addRow("half the height", "Mode=0|Width=100|Height=50|NoEnlarge=yes",
+                          QSize(800, 300));
+        TestUtils::addRow("pixels shrink", "Mode=2|Width=400|Height=300|NoEnlarge=yes",
+                          QSize(400, 300));
+        // Narrower but taller is still an enlargement.
+        TestUtils::addRow("one side larger", "Mode=2|Width=400|Height=700|NoEnlarge=yes", QSize());
+        TestUtils::addRow("unchecked", "Mode=2|Width=900|Height=700|NoEnlarge=no", QSize(900, 700));
+    }
+
+    void neverEnlarge()
+    {
+        QFETCH(QString, keys);
+        QFETCH(QSize, size);
+        const QImage original = photo(800, 600);
+        const QImage resized =
+            applyOperation("Resize", original, "<Parameters>" + elements(keys) + "</Parameters>");
+        if (size.isEmpty())
+            QCOMPARE_IMAGES(resized, original);
+        else
+            QCOMPARE(resized.size(), size);
+        // A node that does not use it writes what it wrote before the check box existed.
+        QCOMPARE(newNode("Resize")->parametersText(),
+                 parametersText("yes", "Mode=0|Width=50|Height=50"));
     }
 
     // The font is the system's own.

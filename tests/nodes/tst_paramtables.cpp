@@ -134,8 +134,10 @@ private slots:
                     {"Resize", {{"Mode", "2"}, {"Width", "1200"}, {"Height", "9000"}}},
                     {"Resize", {{"Mode", "0"}, {"Width", "5000"}}},
                     {"Resize", {{"Mode", "1"}, {"Width", "700"}, {"Mode", "1"}, {"Mode", "7"}}},
-                    {"Watermark", {{"Text", QString(40000, 'a')}}}}));
-        QCOMPARE(read.size(), 5);
+                    {"Watermark", {{"Text", QString(40000, 'a')}}},
+                    {"Resize", {{"NoEnlarge", "YES"}}},
+                    {"Resize", {{"NoEnlarge", "yes"}, {"NoEnlarge", "no"}}}}));
+        QCOMPARE(read.size(), 7);
         const auto values = [](const QString& text, const QStringList& keys) {
             QDomDocument document;
             document.setContent(text);
@@ -150,6 +152,10 @@ private slots:
         QCOMPARE(values(read[2].second, sizes), (QStringList{"0", "100", "50"}));
         QCOMPARE(values(read[3].second, sizes), (QStringList{"-1", "700", "300"}));
         QCOMPARE(values(read[4].second, {"Text"}).constFirst().size(), 32767);
+        // Written only when checked, after the keys that were there before it.
+        QVERIFY(read[5].second.endsWith("<Height>50</Height>\n <NoEnlarge>yes</NoEnlarge>\n"
+                                        "</Parameters>\n"));
+        QVERIFY(!read[6].second.contains("NoEnlarge"));
     }
 
     // Random flows: every name, its own keys and some foreign ones in random order, values
@@ -167,6 +173,8 @@ private slots:
                  key = key.nextSiblingElement())
                 keysOf[name] << key.tagName();
         }
+        // Keys written only when changed are not in a new node's text.
+        keysOf["Resize"] << "NoEnlarge";
         const QStringList values{"-1000",
                                  "-128",
                                  "-127",

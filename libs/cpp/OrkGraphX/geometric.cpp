@@ -333,34 +333,35 @@ QImage drawFrame(QImage& image, int percent, QColor colour)
     return result;
 }
 
-QSize resizedSize(const QSize& size, int width, int height, int mode, bool previewMode)
+QImage resizeImage(QImage& image, int width, int height, int mode, bool previewMode)
+{
+    if (image.isNull() || (previewMode && mode == 1))
+        return image;
+    QSize target = resizedSize(image.size(), width, height, mode);
+    // The interactive preview caps the longer requested side at 700 pixels.
+    if (previewMode && mode == 2 && width >= 701)
+        target = QSize(700, int(qint64(height) * 700 / width));
+    else if (previewMode && mode == 2 && height > 700)
+        target = QSize(int(qint64(width) * 700 / height), 700);
+    return image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QSize resizedSize(const QSize& source, int width, int height, int mode)
 {
     switch (mode) {
     case 0:
-        return QSize(truncToInt(width / 100.0 * size.width()),
-                     truncToInt(height / 100.0 * size.height()));
+        return {truncToInt(width / 100.0 * source.width()),
+                truncToInt(height / 100.0 * source.height())};
     case 1:
-        if (previewMode)
-            return size;
-        return size.scaled(width, height, Qt::KeepAspectRatio);
+        // As QImage::scaled fits: an empty box gives nothing, no side of a fit is below 1.
+        if (width <= 0 || height <= 0)
+            return {width, height};
+        return source.scaled(width, height, Qt::KeepAspectRatio).expandedTo({1, 1});
     case 2:
-        // The interactive preview caps the longer requested side at 700 pixels.
-        if (previewMode && width >= 701)
-            return QSize(700, int(qint64(height) * 700 / width));
-        if (previewMode && height > 700)
-            return QSize(int(qint64(width) * 700 / height), 700);
-        return QSize(width, height);
+        return {width, height};
     default:
-        return size;
+        return source;
     }
-}
-
-QImage resizeImage(QImage& image, int width, int height, int mode, bool previewMode)
-{
-    if (image.isNull() || mode < 0 || mode > 2 || (mode == 1 && previewMode))
-        return image;
-    const QSize size = resizedSize(image.size(), width, height, mode, previewMode);
-    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 QImage fitIntoBox(QImage& image, QSize box, QColor background)

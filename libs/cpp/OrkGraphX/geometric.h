@@ -25,8 +25,9 @@ QSize framedSize(const QSize& size, int percent);
 
 // mode 0 percent, 1 maximum pixels, 2 pixels; previewMode caps the interactive preview.
 QImage resizeImage(QImage& image, int width, int height, int mode, bool previewMode);
-// The size resizeImage gives an image of size (before Qt makes each side at least 1).
-QSize resizedSize(const QSize& size, int width, int height, int mode, bool previewMode);
+// The size resizeImage gives a photo of size source at full size (previewMode off); an unknown
+// mode keeps the size.
+QSize resizedSize(const QSize& source, int width, int height, int mode);
 
 QImage fitIntoBox(QImage& image, QSize box, QColor background);
 
