@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 AppSettingsDialog::AppSettingsDialog(QWidget* parent)
@@ -41,6 +42,12 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     renameForm->addRow(tr("New Name:"), newNameEdit);
     renameForm->addRow(tr("Numbers:"), numbersCombo);
 
+    // Beyond the settings above: how large a photo a run takes, checked before decoding.
+    maxMegapixelsBox = new QSpinBox;
+    maxMegapixelsBox->setRange(1, 10000);
+    maxMegapixelsBox->setSuffix(tr(" megapixels"));
+    auto* limitsForm = new QFormLayout;
+    limitsForm->addRow(tr("Largest photo:"), maxMegapixelsBox);
     auto* okButton = new QPushButton(tr("Ok"));
     okButton->setObjectName("PushButton");
     auto* cancelButton = new QPushButton(tr("Cancel"));
@@ -54,6 +61,7 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     layout->addWidget(openLocationBox);
     layout->addWidget(formatBox);
     layout->addWidget(renameBox);
+    layout->addLayout(limitsForm);
     layout->addLayout(buttons);
 
     connect(okButton, &QPushButton::clicked, this, &AppSettingsDialog::slotSaveSettings);
@@ -72,6 +80,7 @@ void AppSettingsDialog::slotSaveSettings()
     settings.newName = newNameEdit->text();
     settings.format = formatCombo->currentText();
     settings.numbers = numbersCombo->currentIndex();
+    settings.maxMegapixels = maxMegapixelsBox->value();
     settings.save();
     accept();
 }
@@ -85,6 +94,7 @@ void AppSettingsDialog::slotLoadSettings()
     qualitySlider->setValue(settings.quality);
     formatCombo->setCurrentText(settings.format);
     numbersCombo->setCurrentIndex(settings.numbers);
+    maxMegapixelsBox->setValue(settings.maxMegapixels);
     slotFormatChanged();
 }
 

@@ -9,6 +9,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QSpinBox;
 
 class AppSettingsDialog : public QDialog
 {
@@ -32,4 +33,5 @@ private:
     QGroupBox* renameBox = nullptr;
     QLineEdit* newNameEdit = nullptr;
     QComboBox* numbersCombo = nullptr;
+    QSpinBox* maxMegapixelsBox = nullptr;
 };

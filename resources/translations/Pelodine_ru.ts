@@ -4,7 +4,7 @@
 <context>
     <name>AppSettingsDialog</name>
     <message>
-        <location filename="../../batch/appsettingsdialog.cpp" line="+20"/>
+        <location filename="../../batch/appsettingsdialog.cpp" line="+21"/>
         <source> Settings</source>
         <translation> Настройки</translation>
     </message>
@@ -59,7 +59,17 @@
         <translation>Номера:</translation>
     </message>
     <message>
+        <location line="+5"/>
+        <source> megapixels</source>
+        <translation> мегапикселей</translation>
+    </message>
+    <message>
         <location line="+2"/>
+        <source>Largest photo:</source>
+        <translation>Наибольшая фотография:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <source>Ok</source>
         <translation>ОК</translation>
     </message>
