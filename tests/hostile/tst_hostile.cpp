@@ -2,6 +2,7 @@
 // sandbox, runs the tool and checks the files, the message and the exit status.
 #include "appdata.h"
 #include "batchengine.h"
+#include "flowfile.h"
 #include "testutils.h"
 
 #include <QDir>
@@ -184,23 +185,33 @@ private slots:
         QVERIFY(mkfifo(QFile::encodeName(in + "/fifo.jpg").constData(), 0600) == 0);
         TestUtils::writeFile(in + "/drawing.svg",
                              "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'/>");
+        const QString locked = photo("locked.png");
+        QFile::setPermissions(locked, {});
         const Outcome outcome = run({"--output", out, "--quiet", in + "/fifo.jpg", "/dev/zero",
-                                     in + "/gone.png", in + "/drawing.svg"});
+                                     in + "/gone.png", in + "/drawing.svg", locked});
         QCOMPARE(outcome.exitCode, 1);
-        const QStringList expected{
-            "4 photo(s) failed:", "  " + in + "/fifo.jpg: unreadable: not a regular file",
-            "  /dev/zero: unreadable: not a regular file",
-            "  " + in + "/gone.png: unreadable: no such file",
-            "  " + in + "/drawing.svg: unreadable: a drawing (SVG), not a photo"};
-        QCOMPARE(outcome.err.split('\n', Qt::SkipEmptyParts), expected);
+        // Root reads what nobody may read.
+        QCOMPARE(outcome.err.contains(locked + ": unreadable: permission denied"), getuid() != 0);
+        const QStringList expected{QString("%1 photo(s) failed:").arg(getuid() != 0 ? 5 : 4),
+                                   "  " + in + "/fifo.jpg: unreadable: not a regular file",
+                                   "  /dev/zero: unreadable: not a regular file",
+                                   "  " + in + "/gone.png: unreadable: no such file",
+                                   "  " + in +
+                                       "/drawing.svg: unreadable: a drawing (SVG), not a photo"};
+        QCOMPARE(outcome.err.split('\n', Qt::SkipEmptyParts).mid(0, 5), expected);
     }
 
     // A flow in another encoding is read; one the tool had to change runs only when asked.
     void flowsAreReadHonestly()
     {
+        // A logo claiming 20000 x 20000 is not decoded, and said so.
+        const QString logo = "data:image/png;base64," + pngClaiming(20000, 20000).toBase64();
         const QString text = "<OperationsFlow><Operation name=\"Watermrk\" index=\"0\"/>"
                              "<Operation name=\"Invert\" index=\"1\"><Parameters>"
-                             "<Active>yes</Active></Parameters></Operation></OperationsFlow>";
+                             "<Active>yes</Active></Parameters></Operation>"
+                             "<Operation name=\"Watermark\" index=\"2\"><Parameters>"
+                             "<Active>no</Active><ImageData>" +
+                             logo + "</ImageData></Parameters></Operation></OperationsFlow>";
         const QString utf16 = TestUtils::writeFile(
             root.filePath("utf16.flow"),
             QByteArray("\xff\xfe", 2) +
@@ -209,8 +220,12 @@ private slots:
         Outcome outcome = run(arguments);
         QCOMPARE(outcome.exitCode, 1);
         QVERIFY2(outcome.err.contains("\"Watermrk\" is not an operation: left out") &&
+                     outcome.err.contains("Watermark: the ImageData cannot be read") &&
                      outcome.err.contains("--lenient"),
                  qPrintable(outcome.err));
+        const QByteArray latin1 = "<?xml version='1.0' encoding='ISO-8859-1'?><a>Gr\xfc\xdf"
+                                  "e</a>";
+        QCOMPARE(FlowFile::decodedXml(latin1).right(9), QString::fromUtf8("Grüße</a>"));
         QCOMPARE(files(out), QString());
         outcome = run(arguments + QStringList{"--lenient"});
         QCOMPARE(outcome.exitCode, 0);
