@@ -51,6 +51,18 @@ template <typename... Values> void addRow(const char* tag, const Values&... valu
 // a value may hold '=' (base64 padding) but not '|'.
 QVector<QPair<QString, QString>> keyValues(const QString& text);
 
+// What a program run by run() did.
+struct Outcome
+{
+    int exitCode = -1; // -1 when it crashed or did not end within two minutes
+    QString out;
+    QString err;
+};
+
+// Runs program as a user would from a terminal with no display and no runtime folder (which
+// Qt would note on the standard error if the program let it).
+Outcome run(const QString& program, const QStringList& arguments);
+
 } // namespace TestUtils
 
 #define QCOMPARE_IMAGES(actual, expected)                                                          \

@@ -13,7 +13,6 @@
 #include <QBuffer>
 #include <QDateTime>
 #include <QImageWriter>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
@@ -64,28 +63,11 @@ void store(const QString& settings)
             OrkTools::AppData::writeSetting(key, value);
 }
 
-struct Outcome
-{
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
+using TestUtils::Outcome;
 
-// Runs pelodine-batch as a user would, with no display to be had and no runtime folder, which
-// Qt would note on the standard error if the tool let it.
 Outcome runCommand(const QStringList& arguments)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR"})
-        environment.remove(name);
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(PELODINE_BATCH_PATH, arguments);
-    if (!process.waitForFinished(120000))
-        return {};
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            QString::fromLocal8Bit(process.readAllStandardOutput()),
-            QString::fromLocal8Bit(process.readAllStandardError())};
+    return TestUtils::run(PELODINE_BATCH_PATH, arguments);
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QProcess>
 #include <QRegularExpression>
 
 class TestBatchGolden : public QObject
@@ -73,15 +72,13 @@ void TestBatchGolden::outputsAreUnchanged()
     QFETCH(QStringList, options);
     const QString row = QTest::currentDataTag();
     const QString folder = work.filePath(row);
-    QProcess batch;
-    batch.start(PELODINE_BATCH_PATH,
-                QStringList{"--flow", QFINDTESTDATA("golden/" + flow + ".flow"), "--output", folder,
-                            "--quiet", "--lenient"} +
-                    options + photos);
-    QVERIFY(batch.waitForFinished(120000));
+    const TestUtils::Outcome batch = TestUtils::run(
+        PELODINE_BATCH_PATH, QStringList{"--flow", QFINDTESTDATA("golden/" + flow + ".flow"),
+                                         "--output", folder, "--quiet", "--lenient"} +
+                                 options + photos);
 
     // A photo the flow leaves empty fails, and that too must not change.
-    QStringList lines{row + "/ exit " + QString::number(batch.exitCode())};
+    QStringList lines{row + "/ exit " + QString::number(batch.exitCode)};
     const QStringList files = QDir(folder).entryList(QDir::Files, QDir::Name);
     for (const QString& name : files) {
         QFile file(folder + "/" + name);

@@ -6,7 +6,6 @@
 #include "testutils.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QRegularExpression>
 
 #include <sys/mount.h>
@@ -15,11 +14,7 @@
 
 namespace {
 
-struct Outcome
-{
-    int exitCode = -1;
-    QString err;
-};
+using TestUtils::Outcome;
 
 quint32 crc32(const QByteArray& data)
 {
@@ -82,11 +77,7 @@ class TestHostile : public QObject
 
     Outcome run(const QStringList& arguments)
     {
-        QProcess process;
-        process.start(PELODINE_BATCH_PATH, arguments);
-        process.waitForFinished(120000);
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                QString::fromLocal8Bit(process.readAllStandardError())};
+        return TestUtils::run(PELODINE_BATCH_PATH, arguments);
     }
     QString photo(const QString& name)
     {
