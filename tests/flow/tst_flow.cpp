@@ -1,6 +1,7 @@
 // The flow files and the flow panel: what is written, what is read back, how the user edits it.
 #include "appdata.h"
 #include "basenode.h"
+#include "favoritesdeletedlg.h"
 #include "flowfile.h"
 #include "flowoperations.h"
 #include "flowpanel.h"
@@ -160,6 +161,7 @@ private slots:
     void editing();
     void menuDialogs_data();
     void menuDialogs();
+    void deleteDialogChoosesNothing();
 
 private:
     QMenu* flowsMenu() const { return panel->findChild<QPushButton*>("PushButton")->menu(); }
@@ -427,6 +429,24 @@ void TestFlow::menuDialogs()
     QCOMPARE(readFile(OrkTools::AppData::flowsFolder() + "a.flow"), QByteArray("old"));
     // The menu lists the flows folder as it is now.
     QCOMPARE(menuAction(flowsMenu(), file) != nullptr, !content.isEmpty());
+}
+
+// The delete dialog chooses nothing for the user, also when it opens again after a choice.
+void TestFlow::deleteDialogChoosesNothing()
+{
+    FavoritesDeleteDlg dialog;
+    dialog.setFlowNames({"a.flow", "b.flow"});
+    auto* list = dialog.findChild<QListWidget*>();
+    auto* deleteButton = dialog.findChild<QPushButton*>("DeleteButton");
+    for (int round = 0; round < 2; ++round) {
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(dialog.selectedName() + (deleteButton->isEnabled() ? " enabled" : ""), QString());
+        list->setCurrentRow(1);
+        QCOMPARE(dialog.selectedName() + (deleteButton->isEnabled() ? " enabled" : ""),
+                 QString("a.flow enabled"));
+        dialog.hide();
+    }
 }
 
 PELODINE_TEST_MAIN(TestFlow)
