@@ -3,6 +3,7 @@
 #include "app.h"
 #include "dropwidget.h"
 #include "flowfile.h"
+#include "flowpanel.h"
 #include "mainpage.h"
 #include "singleappcheck.h"
 #include "startup.h"
@@ -37,6 +38,8 @@ int main(int argc, char* argv[])
         FlowFile::installSampleFlow();
 
     auto* mainPage = new MainPage;
+    // A flow given as an argument is loaded later and replaces this one.
+    mainPage->flowPanel()->restoreKeptFlow();
     QObject::connect(app, &OrkWidgets::App::dockClicked, mainPage, &QWidget::showNormal);
 
     // The slides of the current language; languages without slides of their own get English.

@@ -10,6 +10,7 @@
 FavoritesDeleteDlg::FavoritesDeleteDlg(QWidget* parent)
     : QDialog(parent)
     , list(new QListWidget(this))
+    , deleteButton(OrkWidgets::newFlatButton("DeleteButton", this, tr("&Delete")))
 {
     setObjectName("Dialog");
     setWindowTitle(tr("Delete the flow"));
@@ -17,11 +18,15 @@ FavoritesDeleteDlg::FavoritesDeleteDlg(QWidget* parent)
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     QPushButton* cancelButton = OrkWidgets::newFlatButton("PushButton", this, tr("&Cancel"));
-    QPushButton* deleteButton = OrkWidgets::newFlatButton("DeleteButton", this, tr("&Delete"));
     cancelButton->setFixedHeight(32);
     deleteButton->setFixedHeight(32);
     connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     connect(deleteButton, &QPushButton::clicked, this, &QDialog::accept);
+    // Deleting needs a choice: nothing is chosen for the user.
+    connect(list, &QListWidget::itemSelectionChanged, this,
+            [this] { deleteButton->setEnabled(!list->selectedItems().isEmpty()); });
+
+    setTabOrder(cancelButton, deleteButton);
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(cancelButton);
@@ -40,14 +45,14 @@ void FavoritesDeleteDlg::setFlowNames(const QStringList& names)
 
 QString FavoritesDeleteDlg::selectedName() const
 {
-    const QListWidgetItem* item = list->currentItem();
-    return item ? item->text() : QString();
+    const QList<QListWidgetItem*> selected = list->selectedItems();
+    return selected.isEmpty() ? QString() : selected.constFirst()->text();
 }
 
 void FavoritesDeleteDlg::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    if (list->count() > 0)
-        list->setCurrentRow(0);
+    list->clearSelection();
+    deleteButton->setEnabled(false);
     list->setFocus();
 }

@@ -4,6 +4,7 @@
 #include <QDialog>
 
 class QListWidget;
+class QPushButton;
 
 class FavoritesDeleteDlg : public QDialog
 {
@@ -14,7 +15,7 @@ public:
 
     // Replaces the list; each name goes to the top, so the list reverses the given order.
     void setFlowNames(const QStringList& names);
-    // The current row's name, empty when the list is empty.
+    // The selected name; empty while none is selected, as when the dialog opens.
     QString selectedName() const;
 
 protected:
@@ -22,4 +23,5 @@ protected:
 
 private:
     QListWidget* list = nullptr;
+    QPushButton* deleteButton = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include "appdata.h"
 #include "basenode.h"
+#include "elidedlabel.h"
 #include "favoritesdeletedlg.h"
 #include "flatbutton.h"
 #include "flowfile.h"
@@ -11,36 +12,104 @@
 #include "tablabel.h"
 #include "ui/nodesoptionspanel.h"
 
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDomDocument>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QInputDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QUndoStack>
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <functional>
+
 namespace {
+
 const int thumbnailSize = 70;
+// The size of a tab's contents in the style sheet.
+const QSize tabFaceSize(93, 88);
+const char keyKeepFlow[] = "KeyKeepFlow";
+// Each step keeps up to two parameter texts, a watermark's logo among them.
+const int undoLimit = 200;
+
+bool keepingFlow()
+{
+    return OrkTools::AppData::readSetting(keyKeepFlow, true).toBool();
+}
+
+bool isSliderHeld(const BaseNode* node)
+{
+    const QList<QAbstractSlider*> sliders = node->findChildren<QAbstractSlider*>();
+    return std::any_of(sliders.cbegin(), sliders.cend(),
+                       [](const QAbstractSlider* slider) { return slider->isSliderDown(); });
+}
+
+// Text typed into a field goes on as one act; any other key begins one.
+bool isTyping(const QObject* target, const QKeyEvent* key)
+{
+    return (qobject_cast<const QLineEdit*>(target) ||
+            qobject_cast<const QAbstractSpinBox*>(target)) &&
+           !key->text().isEmpty() && key->text().at(0).isPrint();
+}
+
+// The node reads parametersText without each control it sets telling the listeners.
+void readQuietly(BaseNode* node, const QString& parametersText)
+{
+    QDomDocument document;
+    document.setContent(parametersText);
+    const QSignalBlocker quiet(node);
+    node->readParameters(document.documentElement());
+}
+
+// The thumbnail with the operation's short name under it, filling the tab.
+QWidget* newTabFace(TabLabel* thumbnail, const QString& name, QWidget* parent)
+{
+    auto* face = new QWidget(parent);
+    face->setFixedSize(tabFaceSize);
+    auto* caption = new OrkWidgets::ElidedLabel(shortDisplayNameForNodeName(name), face);
+    caption->setObjectName("TabCaption");
+    caption->setAlignment(Qt::AlignCenter);
+    auto* layout = new QVBoxLayout(face);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(thumbnail, 0, Qt::AlignHCenter);
+    layout->addWidget(caption);
+    return face;
+}
+
 } // namespace
 
 FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
     : QFrame(parent)
     , optionsPanel(optionsPanel)
     , tabBar(new NodesTabBar(this))
-    , addButton(OrkWidgets::newFlatButton("PushButtonAdd", this, "+"))
+    , addButton(new QToolButton(this))
     , removeButton(OrkWidgets::newFlatButton("PushButtonRemove", this, "-"))
     , flowsButton(OrkWidgets::newFlatButton("PushButton", this, tr("Flows")))
     , runBatchButton(new QPushButton(tr("Save Results"), this))
     , favoritesMenu(new QMenu(this))
     , addMenu(new QMenu(this))
     , deleteDialog(new FavoritesDeleteDlg(this))
+    , undo(new QUndoStack(this))
 {
     // The map travels in signals that may be queued or spied on.
     qRegisterMetaType<QMap<int, BaseNode*>>();
     setObjectName("FlowPanel");
     setFixedHeight(165);
+    undo->setUndoLimit(undoLimit);
+    QCoreApplication::instance()->installEventFilter(this);
     buildLayout();
     buildNodesMenu();
     rebuildFavoritesMenu();
@@ -48,8 +117,8 @@ FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
     connect(tabBar, &NodesTabBar::tabClicked, this, &FlowPanel::slotTabClicked);
     connect(tabBar, &NodesTabBar::countChanged, this, &FlowPanel::slotNodesCountChanged);
     connect(tabBar, &NodesTabBar::tabMoved, this, &FlowPanel::slotTabMoved);
-    connect(addButton, &QPushButton::clicked, this, &FlowPanel::slotAddWaterMarkNode);
-    connect(addButton, &QPushButton::customContextMenuRequested, this,
+    connect(addButton, &QToolButton::clicked, this, &FlowPanel::slotAddWaterMarkNode);
+    connect(addButton, &QToolButton::customContextMenuRequested, this,
             [this](const QPoint& position) { addMenu->popup(addButton->mapToGlobal(position)); });
     connect(removeButton, &QPushButton::clicked, this, &FlowPanel::slotRemoveNode);
     connect(runBatchButton, &QPushButton::clicked, this, &FlowPanel::slotRunBatch);
@@ -59,8 +128,15 @@ FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
 
 void FlowPanel::buildLayout()
 {
-    addButton->setToolTip(tr("Add node"));
-    addButton->setFixedSize(40, 40);
+    addButton->setObjectName("PushButtonAdd");
+    addButton->setText("+");
+    addButton->setAutoRaise(true);
+    addButton->setToolTip(
+        tr("Add node") + '\n' +
+        tr("A click adds a watermark; the arrow or a right click lists every operation."));
+    addButton->setFixedSize(56, 40);
+    addButton->setPopupMode(QToolButton::MenuButtonPopup);
+    addButton->setMenu(addMenu);
     addButton->setContextMenuPolicy(Qt::CustomContextMenu);
     removeButton->setToolTip(tr("Remove selected node"));
     removeButton->setFixedSize(40, 40);
@@ -84,8 +160,6 @@ void FlowPanel::buildLayout()
     tabBar->setUsesScrollButtons(true);
     tabBar->setMinimumHeight(thumbnailSize);
     tabBar->setExpanding(false);
-    // The thumbnail takes most of a tab; a name that does not fit is cut with an ellipsis.
-    tabBar->setElideMode(Qt::ElideRight);
     auto* frame = new QFrame(this);
     frame->setObjectName("FlowPanelFrame");
     auto* frameLayout = new QVBoxLayout(frame);
@@ -121,6 +195,10 @@ void FlowPanel::rebuildFavoritesMenu()
                              &FlowPanel::slotDeleteFavorite);
     favoritesMenu->addAction(QIcon(":/GotoIcon.png"), tr("&Go To Flows Location"), this,
                              &FlowPanel::slotGotoPresetsLocation);
+    QAction* keep = favoritesMenu->addAction(tr("&Keep the Flow for the Next Start"));
+    keep->setCheckable(true);
+    keep->setChecked(keepingFlow());
+    connect(keep, &QAction::toggled, this, &FlowPanel::slotKeepFlowToggled);
     favoritesMenu->addSeparator();
 
     const QStringList names = FlowFile::flowNames();
@@ -133,35 +211,54 @@ void FlowPanel::rebuildFavoritesMenu()
     deleteDialog->setFlowNames(names);
 }
 
-BaseNode* FlowPanel::addNode(const QString& name)
+BaseNode* FlowPanel::addNode(const QString& name, int position)
 {
     BaseNode* node = optionsPanel->createNode(name);
     if (!node)
         return nullptr;
-    const int position = tabBar->addTab(iconForNodeName(name), displayNameForNodeName(name));
-    tabBar->setTabToolTip(position, tabBar->tabText(position));
-    nodes.insert(position, node);
+    // The face below shows the name; the tab's own text would be cut to nothing beside it.
+    position = tabBar->insertTab(position, QString());
+    tabBar->setTabToolTip(position, displayNameForNodeName(name));
+    QMap<int, BaseNode*> shifted;
+    for (auto it = nodes.cbegin(); it != nodes.cend(); ++it)
+        shifted.insert(it.key() < position ? it.key() : it.key() + 1, it.value());
+    shifted.insert(position, node);
+    nodes = shifted;
 
-    auto* thumbnail = new TabLabel(tabBar);
+    auto* thumbnail = new TabLabel;
     thumbnail->setFixedSize(thumbnailSize, thumbnailSize);
-    tabBar->setTabButton(position, QTabBar::LeftSide, thumbnail);
+    tabBar->setTabButton(position, QTabBar::LeftSide, newTabFace(thumbnail, name, tabBar));
     tabBar->setCurrentIndex(position);
 
     thumbnails.insert(node, thumbnail);
     connect(node, &BaseNode::previewChanged, this, &FlowPanel::slotNodePreviewChanged);
+    connect(node, &BaseNode::parametersChanged, this, &FlowPanel::slotNodeParametersChanged);
     return node;
+}
+
+void FlowPanel::pushAddNode(const QString& name)
+{
+    if (factoryNodeNames().contains(name))
+        undo->push(new AddNodeCommand(*this, nodes.size(), name,
+                                      tr("Add %1").arg(displayNameForNodeName(name))));
 }
 
 void FlowPanel::loadFlow(const QString& text)
 {
-    slotNewFavorite();
-    if (FlowText::createNodes(text, [this](const QString& name) { return addNode(name); }))
-        emit flowChanged(nodes);
+    undo->push(new ReplaceFlowCommand(*this, text, tr("Load a Flow")));
 }
 
 bool FlowPanel::saveFlow(const QString& fileName) const
 {
     return FlowText::writeFlow(OrkTools::AppData::flowsFolder() + fileName, nodes);
+}
+
+void FlowPanel::restoreKeptFlow()
+{
+    QString text;
+    // Switching keeping off removes the file.
+    if (FlowFile::readFlowFile(FlowFile::keptFlowPath(), &text))
+        replaceFlow(text);
 }
 
 bool FlowPanel::askYesNo(const QString& question)
@@ -170,33 +267,126 @@ bool FlowPanel::askYesNo(const QString& question)
                                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
+void FlowPanel::afterChange()
+{
+    parameterTexts.clear();
+    for (BaseNode* node : qAsConst(nodes))
+        parameterTexts.insert(node, node->parametersText());
+    keepFlow();
+}
+
+void FlowPanel::keepFlow()
+{
+    keepAfterRelease = std::any_of(nodes.cbegin(), nodes.cend(), isSliderHeld);
+    if (keepAfterRelease)
+        return;
+    const QString text = flowText();
+    if (!keepingFlow() || text == keptText)
+        return;
+    if (FlowText::writeFlow(FlowFile::keptFlowPath(), nodes))
+        keptText = text;
+}
+
+void FlowPanel::replay(const std::function<void()>& change)
+{
+    {
+        const QScopedValueRollback<bool> replaying(isReplaying, true);
+        change();
+    }
+    afterChange();
+}
+
+void FlowPanel::insertNode(int position, const QString& name, const QString& parametersText)
+{
+    replay([&] {
+        BaseNode* node = addNode(name, position);
+        if (node && !parametersText.isEmpty())
+            readQuietly(node, parametersText);
+        emit flowChanged(nodes);
+    });
+}
+
+void FlowPanel::removeNode(int position)
+{
+    replay([&] {
+        if (position >= 0 && position < tabBar->count()) {
+            tabBar->setCurrentIndex(position);
+            removeCurrentNode();
+        }
+    });
+}
+
+void FlowPanel::moveNode(int from, int to)
+{
+    replay([&] { tabBar->moveTab(from, to); });
+}
+
+void FlowPanel::replaceFlow(const QString& text)
+{
+    replay([&] {
+        clearNodes();
+        if (FlowText::createNodes(
+                text, [this](const QString& name) { return addNode(name, nodes.size()); }))
+            emit flowChanged(nodes);
+    });
+}
+
+void FlowPanel::restoreParameters(int position, const QString& parametersText)
+{
+    BaseNode* node = nodes.value(position);
+    if (!node)
+        return;
+    replay([&] {
+        readQuietly(node, parametersText);
+        emit node->parametersChanged();
+    });
+}
+
+QString FlowPanel::flowText() const
+{
+    return FlowText::flowText(nodes);
+}
+
 void FlowPanel::slotTabMoved(int from, int to)
 {
-    // A drag moves a tab one place at a time, so every move is an exchange of neighbours.
-    BaseNode* moved = nodes.value(from);
-    nodes.insert(from, nodes.value(to));
-    nodes.insert(to, moved);
+    QList<BaseNode*> order = nodes.values();
+    order.move(from, to);
+    for (int i = 0; i < order.size(); ++i)
+        nodes.insert(i, order.at(i));
     emit flowChanged(nodes);
+    if (isReplaying)
+        return;
+    // A drag exchanges the dragged tab, the current one, with one neighbour at a time, and
+    // reports either of the two as moved; the step is the dragged tab's move.
+    if (tabBar->currentIndex() == from)
+        std::swap(from, to);
+    undo->push(
+        new MoveNodeCommand(*this, from, to, {tabBar, userActs},
+                            tr("Move %1").arg(displayNameForNodeName(order.at(to)->name()))));
+    keepFlow();
 }
 
 void FlowPanel::slotAddNode()
 {
-    const auto* action = qobject_cast<QAction*>(sender());
-    if (action && addNode(action->data().toString()))
-        emit flowChanged(nodes);
+    if (const auto* action = qobject_cast<QAction*>(sender()))
+        pushAddNode(action->data().toString());
 }
 
 void FlowPanel::slotAddWaterMarkNode()
 {
-    if (addNode("Watermark"))
-        emit flowChanged(nodes);
+    pushAddNode("Watermark");
 }
 
 void FlowPanel::slotNewFavorite()
 {
+    undo->push(new ReplaceFlowCommand(*this, QString(), tr("Clear the Flow")));
+}
+
+void FlowPanel::clearNodes()
+{
     const int count = tabBar->count();
     for (int i = 0; i < count; ++i)
-        slotRemoveNode();
+        removeCurrentNode();
     nodes.clear();
 }
 
@@ -249,6 +439,16 @@ void FlowPanel::slotTabClicked()
 void FlowPanel::slotRemoveNode()
 {
     const int current = tabBar->currentIndex();
+    BaseNode* node = nodes.value(current);
+    if (node)
+        undo->push(
+            new RemoveNodeCommand(*this, current, node->name(), node->parametersText(),
+                                  tr("Remove %1").arg(displayNameForNodeName(node->name()))));
+}
+
+void FlowPanel::removeCurrentNode()
+{
+    const int current = tabBar->currentIndex();
     if (current < 0)
         return;
     const int count = nodes.size();
@@ -258,8 +458,9 @@ void FlowPanel::slotRemoveNode()
             remaining.insert(it.key() < current ? it.key() : it.key() - 1, it.value());
     }
     BaseNode* removed = nodes.value(current);
-    disconnect(removed, &BaseNode::previewChanged, this, &FlowPanel::slotNodePreviewChanged);
+    disconnect(removed, nullptr, this, nullptr);
     thumbnails.remove(removed);
+    parameterTexts.remove(removed);
     tabBar->removeTab(current);
     nodes = remaining;
 
@@ -289,4 +490,58 @@ void FlowPanel::slotNodePreviewChanged(const QImage& preview)
     TabLabel* thumbnail = thumbnails.value(qobject_cast<BaseNode*>(sender()));
     if (thumbnail)
         thumbnail->setPreview(QPixmap::fromImage(preview));
+}
+
+void FlowPanel::slotNodeParametersChanged()
+{
+    BaseNode* node = qobject_cast<BaseNode*>(sender());
+    const int position = nodes.key(node, -1);
+    if (isReplaying || position < 0)
+        return;
+    const QString before = parameterTexts.value(node);
+    const QString after = node->parametersText();
+    if (after == before)
+        return;
+    parameterTexts.insert(node, after);
+    undo->push(new ParametersCommand(*this, position, before, after, {node, userActs},
+                                     tr("Change %1").arg(displayNameForNodeName(node->name()))));
+    keepFlow();
+}
+
+bool FlowPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    // Input reaches a window before its widget; only the widget tells typing from other keys.
+    if (!watched->isWidgetType())
+        return QFrame::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+        ++userActs;
+        break;
+    case QEvent::KeyPress: {
+        const auto* key = static_cast<const QKeyEvent*>(event);
+        if (!key->isAutoRepeat() && !isTyping(watched, key))
+            ++userActs;
+        break;
+    }
+    case QEvent::MouseButtonRelease:
+        // A drag is written once, after the slider has taken the release.
+        if (keepAfterRelease)
+            QMetaObject::invokeMethod(this, &FlowPanel::keepFlow, Qt::QueuedConnection);
+        break;
+    default:
+        break;
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void FlowPanel::slotKeepFlowToggled(bool keep)
+{
+    OrkTools::AppData::writeSetting(keyKeepFlow, keep);
+    keptText.clear();
+    if (keep)
+        keepFlow();
+    else
+        QFile::remove(FlowFile::keptFlowPath());
 }

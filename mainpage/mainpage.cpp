@@ -18,6 +18,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 MainPage::MainPage(QWidget* parent)
@@ -84,6 +85,8 @@ void MainPage::buildMenus()
     // Languages the program has no texts for show in English.
     const QString current = app ? app->language() : QString();
 
+    buildEditMenu();
+
     QMenu* languageMenu = menuBar->addMenu(tr("&Language"));
     languageMenu->setEnabled(app != nullptr);
     languageGroup = new QActionGroup(languageMenu);
@@ -107,6 +110,17 @@ void MainPage::buildMenus()
     helpMenu->addAction(tr("Show &Help"), app, &OrkWidgets::App::slotHelp);
     helpMenu->addAction(tr("&About %1").arg(QCoreApplication::applicationName()), app,
                         &OrkWidgets::App::slotAbout);
+}
+
+void MainPage::buildEditMenu()
+{
+    QMenu* editMenu = menuBar->addMenu(tr("&Edit"));
+    // Qt's own texts name the step, "Undo Add Resize", and come with Qt's translations.
+    QAction* undo = flow->undoStack()->createUndoAction(editMenu);
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* redo = flow->undoStack()->createRedoAction(editMenu);
+    redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    editMenu->addActions({undo, redo});
 }
 
 void MainPage::slotChooseLanguage(const QString& language)

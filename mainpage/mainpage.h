@@ -37,6 +37,8 @@ public slots:
 
 private:
     void buildMenus();
+    // Undo and redo of the flow's changes.
+    void buildEditMenu();
 
     NodesOptionsPanel* optionsPanel = nullptr;
     Creator* photoSide = nullptr;

@@ -57,7 +57,38 @@ const struct
     {GRSNode::Name, "Icon_GRS.png"}, {WMRNode::Name, "Icon_WMR.png"},
 };
 
+// What a flow tab has room for under its thumbnail; each language shortens on its own.
+const struct
+{
+    const char* name;
+    const char* shortName;
+} shortNames[] = {
+    {RGBNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "RGB-Order")},
+    {BCSNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Brightness")},
+    {RTTNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Rotate")},
+    {BLRNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Blur")},
+    {INVNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Invert")},
+    {MRRNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Mirror")},
+    {GRSNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Grayscale")},
+    {WMRNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Watermark")},
+    {CRPNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Crop")},
+    {RSZNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Resize")},
+    {HSTNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Histogram")},
+    {FRMNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Frame")},
+    {BINNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Binarization")},
+    {UCSNode::Name, QT_TRANSLATE_NOOP("NodeShortName", "Vignetting")},
+};
+
 } // namespace
+
+QString shortDisplayNameForNodeName(const QString& name)
+{
+    for (const auto& entry : shortNames) {
+        if (name == QLatin1String(entry.name))
+            return QCoreApplication::translate("NodeShortName", entry.shortName);
+    }
+    return displayNameForNodeName(name);
+}
 
 QString displayNameForNodeName(const QString& name)
 {

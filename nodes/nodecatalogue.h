@@ -19,6 +19,9 @@ QPixmap iconForNodeName(const QString& name);
 // in flow files and the batch.
 QString displayNameForNodeName(const QString& name);
 
+// A short form of the display name for narrow places, such as a flow tab.
+QString shortDisplayNameForNodeName(const QString& name);
+
 // The fourteen names the factory creates, in the factory's order.
 QStringList factoryNodeNames();
 

@@ -46,6 +46,11 @@ QStringList flowNames()
         .entryList({"*.flow"}, QDir::Files | QDir::Hidden | QDir::CaseSensitive, QDir::Unsorted);
 }
 
+QString keptFlowPath()
+{
+    return OrkTools::AppData::flowsFolder() + ".current.flow.kept";
+}
+
 QString flowFileName(const QString& typedName)
 {
     return typedName.endsWith(".flow") ? typedName : typedName + ".flow";

@@ -16,6 +16,10 @@ bool installSampleFlow();
 // The names of the "*.flow" files in the flows folder, in directory order, hidden ones included.
 QStringList flowNames();
 
+// Where the window keeps the current flow for its next start: a hidden file in the flows
+// folder whose name no typed flow name gives and that flowNames does not list.
+QString keptFlowPath();
+
 // The file name a typed flow name is saved under: ".flow" appended unless it already ends so.
 QString flowFileName(const QString& typedName);
 

@@ -381,7 +381,7 @@
 <context>
     <name>FavoritesDeleteDlg</name>
     <message>
-        <location filename="../../flow/favoritesdeletedlg.cpp" line="+15"/>
+        <location filename="../../flow/favoritesdeletedlg.cpp" line="+16"/>
         <source>Delete the flow</source>
         <translation>Ablauf löschen</translation>
     </message>
@@ -391,7 +391,7 @@
         <translation>&amp;Abbrechen</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-7"/>
         <source>&amp;Delete</source>
         <translation>&amp;Löschen</translation>
     </message>
@@ -399,7 +399,7 @@
 <context>
     <name>FlowPanel</name>
     <message>
-        <location filename="../../flow/flowpanel.cpp" line="+34"/>
+        <location filename="../../flow/flowpanel.cpp" line="+100"/>
         <source>Flows</source>
         <translation>Abläufe</translation>
     </message>
@@ -409,12 +409,17 @@
         <translation>Ergebnisse speichern</translation>
     </message>
     <message>
-        <location line="+27"/>
+        <location line="+34"/>
         <source>Add node</source>
         <translation>Schritt hinzufügen</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
+        <source>A click adds a watermark; the arrow or a right click lists every operation.</source>
+        <translation>Ein Klick fügt ein Wasserzeichen hinzu; der Pfeil oder ein Rechtsklick zeigt jeden Schritt zur Auswahl.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Remove selected node</source>
         <translation>Gewählten Schritt entfernen</translation>
     </message>
@@ -424,7 +429,7 @@
         <translation>Die bearbeiteten Fotos in einen eigenen Ordner speichern</translation>
     </message>
     <message>
-        <location line="+45"/>
+        <location line="+43"/>
         <source>&amp;Clear</source>
         <translation>&amp;Leeren</translation>
     </message>
@@ -444,13 +449,38 @@
         <translation>Ablauf&amp;ordner öffnen</translation>
     </message>
     <message>
-        <location line="+47"/>
-        <location line="+44"/>
+        <location line="+2"/>
+        <source>&amp;Keep the Flow for the Next Start</source>
+        <translation>Ablauf für den nächsten Start &amp;behalten</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Load a Flow</source>
+        <translation>Ablauf laden</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <location line="+137"/>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
     <message>
-        <location line="-7"/>
+        <location line="-38"/>
+        <source>Move %1</source>
+        <translation>%1 verschieben</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Clear the Flow</source>
+        <translation>Ablauf leeren</translation>
+    </message>
+    <message>
+        <location line="+14"/>
         <source>Save Flow</source>
         <translation>Ablauf speichern</translation>
     </message>
@@ -477,6 +507,16 @@ Overwrite?</source>
  &quot;%1&quot;?</source>
         <translation>Den Ablauf entfernen:
  „%1“?</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>Change %1</source>
+        <translation>%1 ändern</translation>
     </message>
 </context>
 <context>
@@ -524,12 +564,12 @@ Overwrite?</source>
 <context>
     <name>MainPage</name>
     <message>
-        <location filename="../../mainpage/mainpage.cpp" line="+50"/>
+        <location filename="../../mainpage/mainpage.cpp" line="+51"/>
         <source>Output settings</source>
         <translation>Ausgabeeinstellungen</translation>
     </message>
     <message>
-        <location line="+37"/>
+        <location line="+39"/>
         <source>&amp;Language</source>
         <translation>&amp;Sprache</translation>
     </message>
@@ -549,7 +589,12 @@ Overwrite?</source>
         <translation>&amp;Über %1</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+6"/>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <location line="+17"/>
         <source>The new language is used from the next start of %1.</source>
         <translation>Die neue Sprache gilt ab dem nächsten Start von %1.</translation>
     </message>
@@ -625,6 +670,79 @@ Overwrite?</source>
         <location filename="../../nodes/params/watermarkoperation.h" line="+19"/>
         <source>Watermark</source>
         <translation>Wasserzeichen</translation>
+    </message>
+</context>
+<context>
+    <name>NodeShortName</name>
+    <message>
+        <location filename="../../nodes/nodecatalogue.cpp" line="+66"/>
+        <source>RGB-Order</source>
+        <translation>RGB-Folge</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Blur</source>
+        <translation>Unschärfe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Invert</source>
+        <translation>Invertieren</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Mirror</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Grayscale</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Watermark</source>
+        <translation>Wasserzeichen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Crop</source>
+        <translation>Zuschnitt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Resize</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Binarization</source>
+        <translation>Binär</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vignetting</source>
+        <translation>Vignette</translation>
     </message>
 </context>
 <context>

@@ -381,7 +381,7 @@
 <context>
     <name>FavoritesDeleteDlg</name>
     <message>
-        <location filename="../../flow/favoritesdeletedlg.cpp" line="+15"/>
+        <location filename="../../flow/favoritesdeletedlg.cpp" line="+16"/>
         <source>Delete the flow</source>
         <translation>Удалить сценарий</translation>
     </message>
@@ -391,7 +391,7 @@
         <translation>&amp;Отмена</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-7"/>
         <source>&amp;Delete</source>
         <translation>&amp;Удалить</translation>
     </message>
@@ -399,7 +399,7 @@
 <context>
     <name>FlowPanel</name>
     <message>
-        <location filename="../../flow/flowpanel.cpp" line="+34"/>
+        <location filename="../../flow/flowpanel.cpp" line="+100"/>
         <source>Flows</source>
         <translation>Сценарии</translation>
     </message>
@@ -409,12 +409,17 @@
         <translation>Сохранить результаты</translation>
     </message>
     <message>
-        <location line="+27"/>
+        <location line="+34"/>
         <source>Add node</source>
         <translation>Добавить шаг</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
+        <source>A click adds a watermark; the arrow or a right click lists every operation.</source>
+        <translation>Щелчок добавляет водяной знак; стрелка или правый щелчок открывают список всех шагов.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Remove selected node</source>
         <translation>Удалить выбранный шаг</translation>
     </message>
@@ -424,7 +429,7 @@
         <translation>Сохранить обработанные фото в отдельную папку</translation>
     </message>
     <message>
-        <location line="+45"/>
+        <location line="+43"/>
         <source>&amp;Clear</source>
         <translation>&amp;Очистить</translation>
     </message>
@@ -444,13 +449,38 @@
         <translation>&amp;Перейти к папке сценариев</translation>
     </message>
     <message>
-        <location line="+47"/>
-        <location line="+44"/>
+        <location line="+2"/>
+        <source>&amp;Keep the Flow for the Next Start</source>
+        <translation>&amp;Запоминать сценарий до следующего запуска</translation>
+    </message>
+    <message>
+        <location line="+45"/>
+        <source>Add %1</source>
+        <translation>добавление «%1»</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Load a Flow</source>
+        <translation>загрузку сценария</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <location line="+137"/>
         <source>Warning</source>
         <translation>Предупреждение</translation>
     </message>
     <message>
-        <location line="-7"/>
+        <location line="-38"/>
+        <source>Move %1</source>
+        <translation>перемещение «%1»</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Clear the Flow</source>
+        <translation>очистку сценария</translation>
+    </message>
+    <message>
+        <location line="+14"/>
         <source>Save Flow</source>
         <translation>Сохранить сценарий</translation>
     </message>
@@ -477,6 +507,16 @@ Overwrite?</source>
  &quot;%1&quot;?</source>
         <translation>Удалить сценарий:
  «%1»?</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Remove %1</source>
+        <translation>удаление «%1»</translation>
+    </message>
+    <message>
+        <location line="+61"/>
+        <source>Change %1</source>
+        <translation>изменение «%1»</translation>
     </message>
 </context>
 <context>
@@ -524,12 +564,12 @@ Overwrite?</source>
 <context>
     <name>MainPage</name>
     <message>
-        <location filename="../../mainpage/mainpage.cpp" line="+50"/>
+        <location filename="../../mainpage/mainpage.cpp" line="+51"/>
         <source>Output settings</source>
         <translation>Параметры вывода</translation>
     </message>
     <message>
-        <location line="+37"/>
+        <location line="+39"/>
         <source>&amp;Language</source>
         <translation>&amp;Язык</translation>
     </message>
@@ -549,7 +589,12 @@ Overwrite?</source>
         <translation>&amp;О программе %1</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+6"/>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <location line="+17"/>
         <source>The new language is used from the next start of %1.</source>
         <translation>Новый язык будет использоваться после следующего запуска %1.</translation>
     </message>
@@ -625,6 +670,79 @@ Overwrite?</source>
         <location filename="../../nodes/params/watermarkoperation.h" line="+19"/>
         <source>Watermark</source>
         <translation>Водяной знак</translation>
+    </message>
+</context>
+<context>
+    <name>NodeShortName</name>
+    <message>
+        <location filename="../../nodes/nodecatalogue.cpp" line="+66"/>
+        <source>RGB-Order</source>
+        <translation>Порядок RGB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Brightness</source>
+        <translation>Яркость</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Rotate</source>
+        <translation>Поворот</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Blur</source>
+        <translation>Размытие</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Invert</source>
+        <translation>Инверсия</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Mirror</source>
+        <translation>Отражение</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Grayscale</source>
+        <translation>Серый</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Watermark</source>
+        <translation>Водяной знак</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Crop</source>
+        <translation>Обрезка</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Resize</source>
+        <translation>Размер</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Histogram</source>
+        <translation>Гистограмма</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Frame</source>
+        <translation>Рамка</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Binarization</source>
+        <translation>Бинаризация</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vignetting</source>
+        <translation>Виньетка</translation>
     </message>
 </context>
 <context>

@@ -1,21 +1,29 @@
 // The flow files and the flow panel: what is written, what is read back, how the user edits it.
 #include "appdata.h"
 #include "basenode.h"
+#include "favoritesdeletedlg.h"
 #include "flowfile.h"
 #include "flowoperations.h"
 #include "flowpanel.h"
+#include "flowtext.h"
 #include "nodecatalogue.h"
 #include "testutils.h"
 #include "ui/nodesoptionspanel.h"
 
+#include <QComboBox>
 #include <QDir>
+#include <QGroupBox>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QSlider>
 #include <QTimer>
+#include <QToolButton>
+#include <QUndoStack>
 
 #include <algorithm>
 #include <memory>
@@ -144,6 +152,27 @@ void drag(QTabBar* bar, int from, int to)
     QTest::mouseRelease(bar, Qt::LeftButton, Qt::NoModifier, end);
 }
 
+// Holds the slider down, moves it through the values, then lets it go: one drag.
+void slide(QSlider* slider, const QString& values)
+{
+    slider->setSliderDown(true);
+    for (const QString& value : values.split(' '))
+        slider->setSliderPosition(value.toInt());
+    slider->setSliderDown(false);
+}
+
+// Types text into field as the keyboard does, through its window.
+void type(QLineEdit* field, const QString& text)
+{
+    QWidget* window = field->window();
+    window->show();
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    field->setFocus();
+    for (const QChar letter : text)
+        QTest::keyClick(window->windowHandle(), letter.toLatin1());
+}
+
 } // namespace
 
 class TestFlow : public QObject
@@ -160,6 +189,11 @@ private slots:
     void editing();
     void menuDialogs_data();
     void menuDialogs();
+    void operationsMenu();
+    void undoRedo_data();
+    void undoRedo();
+    void keepingSwitchedOff();
+    void deleteDialogChoosesNothing();
 
 private:
     QMenu* flowsMenu() const { return panel->findChild<QPushButton*>("PushButton")->menu(); }
@@ -274,7 +308,7 @@ void TestFlow::savedTextIsExact()
     }
     QCOMPARE(QDir(OrkTools::AppData::flowsFolder())
                  .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-             QStringList{"\u00e9t\u00e9.flow"});
+             (QStringList{".current.flow.kept", "\u00e9t\u00e9.flow"}));
 }
 
 // Saved and read back, a flow gives the operations the panel holds: here the sample flow of
@@ -302,8 +336,11 @@ void TestFlow::savedAndReadBack()
 }
 
 // Runs steps separated by "|" on the panel: "<words for flowOf>" loads them, "broken" loads a
-// broken text, "add" presses the + button, "select <tab>", "remove" (the - button), "menu <flows
-// menu entry>", "drag <from tab> <to tab>". Returns the flow's names, " [current tab]", then its
+// broken text, "add" presses the + button, "add <name>" chooses from its menu, "select <tab>",
+// "remove" (the - button), "menu <flows menu entry>", "drag <from tab> <to tab>"; in the current
+// node "set <value>" sets its first slider, "slide <value>..." drags it through the values,
+// "combo <index>" chooses in its first combo box, "type <text>" types into its first text field,
+// "switch" clicks its title's check box. Returns the flow's names, " [current tab]", then its
 // signals in order: "+<names>" for flowChanged, "-<removed>><current>" for nodeRemoved; a "!" marks
 // a signal whose flow is not the panel's, "tabs" tabs that differ from the flow, "buttons" Remove
 // or Save enabled with no node or disabled with some, "deleted" a removed node that is gone.
@@ -326,8 +363,24 @@ QString TestFlow::play(const QString& steps)
     for (const QString& step : steps.split('|')) {
         const QString command = step.section(' ', 0, 0);
         const QString rest = step.section(' ', 1);
-        if (command == "add")
-            panel->findChild<QPushButton*>("PushButtonAdd")->click();
+        // Each step is an act of the user of its own, begun as a real one is, by a press.
+        QTest::keyClick(panel.get(), Qt::Key_Shift);
+        BaseNode* node = panel->flow().value(bar->currentIndex());
+        auto* slider = node ? node->findChild<QSlider*>() : nullptr;
+        if (command == "add" && rest.isEmpty())
+            panel->findChild<QToolButton*>("PushButtonAdd")->click();
+        else if (command == "add")
+            menuAction(panel->nodesMenu(), rest)->trigger();
+        else if (command == "set")
+            slider->setValue(rest.toInt());
+        else if (command == "slide")
+            slide(slider, rest);
+        else if (command == "type")
+            type(node->findChild<QLineEdit*>(), rest);
+        else if (command == "combo")
+            node->findChild<QComboBox*>()->setCurrentIndex(rest.toInt());
+        else if (command == "switch")
+            QTest::keyClick(node->findChild<QGroupBox*>(), Qt::Key_Space);
         else if (command == "select")
             bar->setCurrentIndex(rest.toInt());
         else if (command == "remove")
@@ -349,7 +402,7 @@ QString TestFlow::play(const QString& steps)
     }
     QStringList tabs;
     for (int i = 0; i < bar->count(); ++i)
-        tabs << bar->tabText(i);
+        tabs << bar->tabToolTip(i);
     const QStringList names = namesOf(panel->flow());
     return names.join(' ') + (tabs == names ? "" : " tabs") +
            QString(" [%1] ").arg(bar->currentIndex()) + log.join(' ');
@@ -427,6 +480,148 @@ void TestFlow::menuDialogs()
     QCOMPARE(readFile(OrkTools::AppData::flowsFolder() + "a.flow"), QByteArray("old"));
     // The menu lists the flows folder as it is now.
     QCOMPARE(menuAction(flowsMenu(), file) != nullptr, !content.isEmpty());
+}
+
+// A click on "+" adds a watermark; its arrow opens the one menu of all fourteen operations in the
+// catalogue's order, which a right click opens too, and the chosen one is added.
+void TestFlow::operationsMenu()
+{
+    auto* add = panel->findChild<QToolButton*>("PushButtonAdd");
+    QCOMPARE(add->menu(), panel->nodesMenu());
+    QStringList names;
+    const QList<QAction*> actions = add->menu()->actions();
+    for (const QAction* action : actions)
+        names << action->text() + (action->icon().isNull() ? " without icon" : "");
+    QCOMPARE(names, (QStringList{"RGB-Order", "Brightness, Contrast, Saturation", "Rotate", "Blur",
+                                 "Invert", "Mirror", "Grayscale", "Watermark", "Crop", "Resize",
+                                 "Histogram optimizer", "Frame", "Binarization", "Vignetting"}));
+    panel->show();
+    QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
+    QTimer chooser;
+    connect(&chooser, &QTimer::timeout, [] {
+        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            menuAction(menu, "Resize")->trigger();
+            menu->close();
+        }
+    });
+    chooser.start(5);
+    QTest::mouseClick(add, Qt::LeftButton, Qt::NoModifier, QPoint(add->width() - 5, 20));
+    QTest::mouseClick(add, Qt::LeftButton, Qt::NoModifier, QPoint(10, 20));
+    QCOMPARE(namesOf(panel->flow()), (QStringList{"Resize", "Watermark"}));
+    QContextMenuEvent rightClick(QContextMenuEvent::Mouse, QPoint(10, 20));
+    QApplication::sendEvent(add, &rightClick);
+    QTRY_VERIFY(panel->nodesMenu()->isVisible());
+}
+
+void TestFlow::undoRedo_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<int>("steps");
+    using TestUtils::addRow;
+    addRow("+", "Blur Crop", "add", 1);
+    addRow("from the + menu", "Blur", "add Resize", 1);
+    addRow("remove middle", "Blur Crop Invert|select 1", "remove", 1);
+    addRow("remove the only", "Blur:no", "remove", 1);
+    addRow("one drag two places", "Blur Crop Invert", "drag 0 2", 1);
+    addRow("two drags", "Blur Crop Invert", "drag 0 1|drag 2 0", 2);
+    addRow("Clear", "Blur Crop:no Invert", "menu &Clear", 1);
+    addRow("Clear when empty", "", "menu &Clear", 0);
+    addRow("load from the menu", "Blur", "menu sample.flow", 1);
+    addRow("load", "Blur Crop", "Invert Grayscale:no", 1);
+    addRow("load broken", "Blur Crop", "broken", 1);
+    addRow("load the same", "Blur Crop", "Blur Crop", 0);
+    addRow("set a slider", "Blur Crop|select 0", "set 3", 1);
+    addRow("set twice", "Blur", "set 3|set 4", 2);
+    addRow("switch off", "Crop Blur", "switch", 1);
+    addRow("one slider drag", "Blur", "slide 12 15 18 14", 1);
+    addRow("two slider drags", "Blur", "slide 12|slide 14", 2);
+    addRow("dragged back", "Blur", "slide 12 10", 0);
+    addRow("typing", "Watermark", "type ab c", 1);
+    addRow("typing twice", "Watermark", "type ab|type c", 2);
+    // The mode resets both sizes; undone, the sizes come back after it.
+    addRow("resize mode", "Resize", "set 80|combo 2", 2);
+}
+
+// Every change of the flow is undone to the flow as it was, tabs and parameter texts alike, and
+// redone to the flow it made, without new steps; a second panel starts with the flow left behind.
+void TestFlow::undoRedo()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, change);
+    QFETCH(int, steps);
+    QVERIFY(FlowFile::installSampleFlow());
+    renewPanel();
+    panel->show();
+    QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
+    const auto state = [this] {
+        QStringList tabs;
+        for (int i = 0; i < bar->count(); ++i)
+            tabs << bar->tabToolTip(i);
+        return tabs.join(' ') + "\n" + FlowText::flowText(panel->flow());
+    };
+    if (!before.isEmpty())
+        play(before);
+    QUndoStack* stack = panel->undoStack();
+    const int start = stack->index();
+    const QString first = state();
+    play(change);
+    const QString changed = state();
+    QCOMPARE(stack->index() - start, steps);
+    QCOMPARE(stack->count(), stack->index());
+    for (int i = 0; i < steps; ++i)
+        stack->undo();
+    QCOMPARE(state(), first);
+    while (stack->canRedo())
+        stack->redo();
+    QCOMPARE(state(), changed);
+    QCOMPARE(stack->count(), start + steps);
+    stack->undo();
+    FlowPanel next(&options);
+    next.restoreKeptFlow();
+    QCOMPARE(FlowText::flowText(next.flow()), FlowText::flowText(panel->flow()));
+}
+
+// Switched off, the kept flow is gone, changes are not kept and the next panel starts empty;
+// switched on again, the flow is kept at once. The Flows menu never lists it.
+void TestFlow::keepingSwitchedOff()
+{
+    panel->loadFlow(flowOf("Blur"));
+    const int entries = flowsMenu()->actions().size();
+    QAction* keep = menuAction(flowsMenu(), "&Keep the Flow for the Next Start");
+    QVERIFY(keep->isChecked());
+    keep->trigger();
+    QVERIFY(!QFile::exists(FlowFile::keptFlowPath()));
+    panel->loadFlow(flowOf("Crop"));
+    renewPanel();
+    panel->restoreKeptFlow();
+    QCOMPARE(namesOf(panel->flow()), QStringList());
+    panel->loadFlow(flowOf("Invert"));
+    keep = menuAction(flowsMenu(), "&Keep the Flow for the Next Start");
+    QVERIFY(!keep->isChecked());
+    keep->trigger();
+    renewPanel();
+    panel->restoreKeptFlow();
+    QCOMPARE(namesOf(panel->flow()), QStringList{"Invert"});
+    QCOMPARE(flowsMenu()->actions().size(), entries);
+}
+
+// The delete dialog chooses nothing for the user, also when it opens again after a choice.
+void TestFlow::deleteDialogChoosesNothing()
+{
+    FavoritesDeleteDlg dialog;
+    dialog.setFlowNames({"a.flow", "b.flow"});
+    auto* list = dialog.findChild<QListWidget*>();
+    auto* deleteButton = dialog.findChild<QPushButton*>("DeleteButton");
+    for (int round = 0; round < 2; ++round) {
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(dialog.selectedName() + (deleteButton->isEnabled() ? " enabled" : ""), QString());
+        list->setCurrentRow(1);
+        QCOMPARE(dialog.selectedName() + (deleteButton->isEnabled() ? " enabled" : ""),
+                 QString("a.flow enabled"));
+        dialog.hide();
+    }
 }
 
 PELODINE_TEST_MAIN(TestFlow)

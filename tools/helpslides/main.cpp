@@ -32,7 +32,9 @@
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
+#include <QToolButton>
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -171,6 +173,13 @@ QPixmap overWindow(const QPixmap& window, const QPixmap& dialog)
     return picture;
 }
 
+// The page with the menu of "+" open below it, as its arrow opens it.
+QPixmap operationsMenu(MainPage& page)
+{
+    const auto* addButton = page.flowPanel()->findChild<QToolButton*>("PushButtonAdd");
+    return withMenu(&page, page.flowPanel()->nodesMenu(), below(addButton, addButton->rect()));
+}
+
 struct Shot
 {
     QPixmap picture;
@@ -188,10 +197,14 @@ const char* const captions[][3] = {
      "Links das Original, rechts das Ergebnis des Ablaufs. Mit den Pfeilen blättern Sie durch "
      "die Fotos.",
      "Слева оригинал, справа результат сценария. Стрелками можно листать фото."},
-    {"Click \"+\" to add a step to the flow: watermark, resize, crop, frame and more.",
-     "Mit „+“ fügen Sie dem Ablauf einen Schritt hinzu: Wasserzeichen, Größe, Zuschnitt, "
-     "Rahmen und mehr.",
-     "Кнопка «+» добавляет шаг в сценарий: водяной знак, размер, обрезку, рамку и другое."},
+    {"A click on \"+\" adds a watermark; its arrow, or a right click, offers every step: "
+     "resize, crop, frame and more. Edit > Undo (Ctrl+Z) takes any change back.",
+     "Ein Klick auf „+“ fügt ein Wasserzeichen hinzu; sein Pfeil oder ein Rechtsklick bietet "
+     "jeden Schritt an: Größe, Zuschnitt, Rahmen und mehr. Bearbeiten > Rückgängig (Strg+Z) "
+     "nimmt jede Änderung zurück.",
+     "Щелчок по «+» добавляет водяной знак; его стрелка или правый щелчок предлагают любой шаг: "
+     "размер, обрезку, рамку и другое. Правка > Отменить действие (Ctrl+Z) возвращает любое "
+     "изменение."},
     {"The watermark: a text or a logo, with font, colours, size, transparency and position.",
      "Das Wasserzeichen: ein Text oder ein Logo, mit Schrift, Farben, Größe, Transparenz und "
      "Position.",
@@ -247,9 +260,7 @@ QList<Shot> helpShots(const QList<QUrl>& photos, int languageIndex)
     session.selectNode(0);
     add(rows(page.grab(), &page, nullptr, photoSide));
 
-    auto* addButton = page.flowPanel()->findChild<QPushButton*>("PushButtonAdd");
-    add(rows(withMenu(&page, page.flowPanel()->nodesMenu(), below(addButton, addButton->rect())),
-             &page, options, nullptr));
+    add(rows(operationsMenu(page), &page, options, nullptr));
 
     add(rows(page.grab(), &page, options, nullptr));
 
@@ -294,7 +305,10 @@ QList<Shot> helpShots(const QList<QUrl>& photos, int languageIndex)
     batch->hide();
 
     auto* bar = page.findChild<QMenuBar*>("MenuBar");
-    QAction* language = bar->actions().at(0);
+    const QList<QAction*> menus = bar->actions();
+    QAction* language = *std::find_if(menus.begin(), menus.end(), [](const QAction* menu) {
+        return menu->text() == QCoreApplication::translate("MainPage", "&Language");
+    });
     add(rows(withMenu(&page, language->menu(), below(bar, bar->actionGeometry(language))), &page,
              nullptr, photoSide));
     return shots;
@@ -388,6 +402,7 @@ bool writeDocs(const QString& folder, const QList<QUrl>& photos)
             sample.page.flowPanel()->loadFlow(sampleFlowText());
             sample.selectNode(0);
             shots << qMakePair(QString("mainwindow"), sample.page.grab());
+            shots << qMakePair(QString("operations-menu"), operationsMenu(sample.page));
             shots << qMakePair(QString("watermark-options"),
                                sample.page.nodesOptionsPanel()->grab());
             AppSettingsDialog settings(&sample.page);
