@@ -33,6 +33,8 @@ const bool captionsAbove = true;
 const bool captionsBeside = false;
 const bool packed = true;
 const int fontComboLetters = 6;
+// Long captions (Russian ones) would otherwise squeeze the sliders to a few pixels.
+const int sliderMinimumWidth = 80;
 
 // A form whose captions go above or beside its fields, appended to parent.
 QFormLayout* newForm(QBoxLayout* parent, bool above)
@@ -155,6 +157,8 @@ WMRNode::WMRNode(QWidget* parent)
     addRow(what, key("ImageName").translatedCaption(),
            newRowFields({logoLine, browseButton}, !packed), logoMode, true);
     QFormLayout* strength = newForm(columns, captionsAbove);
+    for (ComboSlider* slider : {sizeSlider, transparencySlider})
+        slider->setSliderMinimumWidth(sliderMinimumWidth);
     addRow(strength, key("Size").translatedCaption(), sizeSlider, bothModes, false);
     addRow(strength, key("Transparency").translatedCaption(), transparencySlider, bothModes, false);
     auto* where = new QVBoxLayout;

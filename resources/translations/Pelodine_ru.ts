@@ -739,7 +739,7 @@ Overwrite?</source>
     <message>
         <location line="+1"/>
         <source>Image</source>
-        <translation>Изображение</translation>
+        <translation>Логотип</translation>
     </message>
     <message>
         <location line="+5"/>
