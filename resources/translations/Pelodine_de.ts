@@ -212,7 +212,7 @@
 <context>
     <name>Creator</name>
     <message>
-        <location filename="../../mainpage/creator.cpp" line="+37"/>
+        <location filename="../../mainpage/creator.cpp" line="+39"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
@@ -225,17 +225,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+19"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+84"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Fotos hierher ziehen&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="-64"/>
         <source>Click to open the photos</source>
         <translation>Klicken, um Fotos zu öffnen</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+69"/>
         <source>Open the photos</source>
         <translation>Fotos öffnen</translation>
     </message>
@@ -426,7 +426,7 @@ Overwrite?</source>
 <context>
     <name>ImageViewDialog</name>
     <message>
-        <location filename="../../mainpage/imageviewdialog.cpp" line="+14"/>
+        <location filename="../../mainpage/imageviewdialog.cpp" line="+15"/>
         <source>Result</source>
         <translation>Ergebnis</translation>
     </message>
@@ -447,12 +447,12 @@ Overwrite?</source>
 <context>
     <name>MainPage</name>
     <message>
-        <location filename="../../mainpage/mainpage.cpp" line="+50"/>
+        <location filename="../../mainpage/mainpage.cpp" line="+53"/>
         <source>Output settings</source>
         <translation>Ausgabeeinstellungen</translation>
     </message>
     <message>
-        <location line="+37"/>
+        <location line="+13"/>
         <source>&amp;Language</source>
         <translation>&amp;Sprache</translation>
     </message>
@@ -467,7 +467,7 @@ Overwrite?</source>
         <translation>&amp;Hilfe anzeigen</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>&amp;About %1</source>
         <translation>&amp;Über %1</translation>
     </message>
@@ -480,7 +480,7 @@ Overwrite?</source>
 <context>
     <name>NodeName</name>
     <message>
-        <location filename="../../nodes/params/operations.h" line="+25"/>
+        <location filename="../../nodes/params/operations.h" line="+26"/>
         <source>Brightness, Contrast, Saturation</source>
         <translation>Helligkeit, Kontrast, Sättigung</translation>
     </message>
@@ -551,6 +551,24 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>NodesOptionsPanel</name>
+    <message>
+        <location filename="../../nodes/ui/nodesoptionspanel.cpp" line="+45"/>
+        <source>Build your flow</source>
+        <translation>Ablauf erstellen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Add an operation with the %1 button below.</source>
+        <translation>Fügen Sie mit der Schaltfläche %1 unten einen Schritt hinzu.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Its options will appear here.</source>
+        <translation>Seine Optionen erscheinen hier.</translation>
+    </message>
+</context>
+<context>
     <name>PhotoLabel</name>
     <message>
         <location filename="../../mainpage/photolabel.cpp" line="+35"/>
@@ -563,7 +581,7 @@ Overwrite?</source>
         <translation>Nächstes Foto</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+26"/>
         <source>&lt;H1&gt;%1 of %2&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;%1 von %2&lt;/H1&gt;</translation>
     </message>
@@ -682,7 +700,7 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+91"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+93"/>
         <source>Fewer options</source>
         <translation>Weniger Optionen</translation>
     </message>
@@ -797,7 +815,7 @@ Overwrite?</source>
         <translation>Strecken:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+56"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+58"/>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
@@ -807,7 +825,7 @@ Overwrite?</source>
         <translation>Die Bilddatei kann nicht geöffnet werden:</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+19"/>
         <source>Open the watermark file</source>
         <translation>Wasserzeichen-Datei öffnen</translation>
     </message>
@@ -820,7 +838,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+42"/>
+        <location filename="../../app/batchmain.cpp" line="+59"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
