@@ -6,7 +6,6 @@
 #include "mainpage.h"
 #include "singleappcheck.h"
 #include "startup.h"
-#include "translationsmanager.h"
 
 #include <QTimer>
 
@@ -41,10 +40,6 @@ int main(int argc, char* argv[])
 
     // The slides of the current language; languages without slides of their own get English.
     app->setHelpSlides(Startup::helpSlides(app->language()));
-    // A language chosen in the menu brings its own slides with it.
-    QObject::connect(
-        app->translations(), &OrkWidgets::TranslationsManager::languageChanged, app,
-        [app](const QString& chosen) { app->setHelpSlides(Startup::helpSlides(chosen)); });
 
     mainPage->setWindowTitle(QCoreApplication::applicationName());
     auto* dropWidget = new OrkWidgets::DropWidget;

@@ -82,7 +82,7 @@ void MainPage::buildMenus()
 {
     OrkWidgets::App* app = OrkWidgets::App::instance();
     // Languages the program has no texts for show in English.
-    const QString current = app ? app->language() : QString();
+    const QString current = app ? app->translations()->chosenLanguage() : QString();
 
     QMenu* languageMenu = menuBar->addMenu(tr("&Language"));
     languageMenu->setEnabled(app != nullptr);
@@ -112,17 +112,18 @@ void MainPage::buildMenus()
 void MainPage::slotChooseLanguage(const QString& language)
 {
     OrkWidgets::App* app = OrkWidgets::App::instance();
-    if (!app || language == app->language())
+    if (!app || language == app->translations()->chosenLanguage())
         return;
-    // Installed at once, so the notice below already speaks the chosen language.
-    app->translations()->setLanguage(language);
-    auto* notice = new QMessageBox(QMessageBox::Information, QCoreApplication::applicationName(),
-                                   tr("The new language is used from the next start of %1.")
-                                       .arg(QCoreApplication::applicationName()),
-                                   QMessageBox::Ok, this);
-    notice->setObjectName("LanguageNotice");
-    notice->setAttribute(Qt::WA_DeleteOnClose);
-    notice->open();
+    app->translations()->chooseForNextStart(language);
+    // Said in the chosen language, the one reader sure to understand it.
+    const QString notice = app->translations()->programText(
+        language, "MainPage", QT_TR_NOOP("The new language is used from the next start of %1."));
+    auto* box =
+        new QMessageBox(QMessageBox::Information, QCoreApplication::applicationName(),
+                        notice.arg(QCoreApplication::applicationName()), QMessageBox::Ok, this);
+    box->setObjectName("LanguageNotice");
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 void MainPage::slotFilesDropped(const QList<QUrl>& urls)

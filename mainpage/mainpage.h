@@ -31,8 +31,8 @@ public slots:
     void slotFilesDropped(const QList<QUrl>& urls);
     // The output settings, modal.
     void slotShowSettings();
-    // Stores the language through the translations manager and says that the windows follow
-    // at the next start.
+    // Stores the language for the next start, says so in that language, and changes nothing
+    // on screen before.
     void slotChooseLanguage(const QString& language);
 
 private:
