@@ -8,6 +8,7 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QImageReader>
 #include <QLabel>
@@ -62,6 +63,7 @@ void Creator::slotDropped(bool loaded)
     const QString path = area->currentPath();
     QImage photo = PhotoFiles::read(path);
     photo.setDevicePixelRatio(1.0);
+    area->setCaption(PhotoLabel::captionText(QFileInfo(path).fileName(), photo.size()));
     optionsPanel->setImage(photo);
     emit formatChanged(QString::fromLatin1(QImageReader::imageFormat(path)));
 }

@@ -422,6 +422,11 @@ Overwrite?</source>
         <source>&lt;H1&gt;INFO&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;INFO&lt;/H1&gt;</translation>
     </message>
+    <message>
+        <location line="+16"/>
+        <source>Preview · %1</source>
+        <translation>Vorschau · %1</translation>
+    </message>
 </context>
 <context>
     <name>ImageViewDialog</name>
