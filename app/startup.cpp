@@ -56,7 +56,7 @@ bool openPaths(MainPage* page, const QString& lines)
         }
     }
     if (!request.photos.isEmpty())
-        page->slotFilesDropped(request.photos);
+        page->slotFilesAdded(request.photos);
     else if (flowLoaded)
         page->show();
     return flowLoaded || !request.photos.isEmpty();

@@ -27,8 +27,8 @@ struct OpenRequest
 };
 OpenRequest splitPaths(const QString& lines);
 
-// Loads the last readable flow of the request into the flow panel and hands the photos to the
-// photo side; the page is shown when anything was opened. False when nothing was.
+// Loads the last readable flow of the request into the flow panel and appends the photos to the
+// photo list; the page is shown when anything was opened. False when nothing was.
 bool openPaths(MainPage* page, const QString& lines);
 
 } // namespace Startup

@@ -2,6 +2,7 @@
 
 #include "colorbutton.h"
 #include "flatbutton.h"
+#include "photofiles.h"
 #include "ui/comboslider.h"
 #include "ui/directionswidget.h"
 
@@ -13,7 +14,6 @@
 #include <QFontComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QImageReader>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -215,13 +215,9 @@ void WMRNode::slotModeChanged(int mode)
 
 void WMRNode::slotWMRBrowse()
 {
-    QStringList patterns;
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const QByteArray& format : formats)
-        patterns << "*." + QString::fromLatin1(format);
-    const QString fileName =
-        QFileDialog::getOpenFileName(this, tr("Open the watermark file"), QString(),
-                                     tr("Images (%1);;All files (*)").arg(patterns.join(' ')));
+    const QString fileName = QFileDialog::getOpenFileName(
+        this, tr("Open the watermark file"), QString(),
+        tr("Images (%1);;All files (*)").arg(PhotoFiles::namePatterns()));
     if (!fileName.isEmpty())
         openLogoFile(fileName);
 }

@@ -457,6 +457,21 @@ Overwrite?</source>
         <translation>Ausgabeeinstellungen</translation>
     </message>
     <message>
+        <location line="+35"/>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Save Flow</source>
+        <translation>Ablauf speichern</translation>
+    </message>
+    <message>
         <location line="+13"/>
         <source>&amp;Language</source>
         <translation>&amp;Sprache</translation>
@@ -571,6 +586,64 @@ Overwrite?</source>
         <location line="+2"/>
         <source>Its options will appear here.</source>
         <translation>Seine Optionen erscheinen hier.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoActions</name>
+    <message>
+        <location filename="../../mainpage/photoactions.cpp" line="+23"/>
+        <source>&amp;Add Photos…</source>
+        <translation>&amp;Fotos hinzufügen…</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add &amp;Folder…</source>
+        <translation>&amp;Ordner hinzufügen…</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Remove Photo</source>
+        <translation>Foto &amp;entfernen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Clear Photos</source>
+        <translation>&amp;Alle Fotos entfernen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Next Photo</source>
+        <translation>Nächstes Foto</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Previous Photo</source>
+        <translation>Vorheriges Foto</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Add Photos</source>
+        <translation>Fotos hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Photos (%1);;All Files (*)</source>
+        <translation>Fotos (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Add Folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>There are no photos in the folder %1.</source>
+        <translation>Im Ordner %1 sind keine Fotos.</translation>
     </message>
 </context>
 <context>

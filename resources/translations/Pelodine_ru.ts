@@ -457,6 +457,21 @@ Overwrite?</source>
         <translation>Параметры вывода</translation>
     </message>
     <message>
+        <location line="+35"/>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Save Flow</source>
+        <translation>Сохранить сценарий</translation>
+    </message>
+    <message>
         <location line="+13"/>
         <source>&amp;Language</source>
         <translation>&amp;Язык</translation>
@@ -571,6 +586,64 @@ Overwrite?</source>
         <location line="+2"/>
         <source>Its options will appear here.</source>
         <translation>Здесь появятся его параметры.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoActions</name>
+    <message>
+        <location filename="../../mainpage/photoactions.cpp" line="+23"/>
+        <source>&amp;Add Photos…</source>
+        <translation>&amp;Добавить фото…</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add &amp;Folder…</source>
+        <translation>Добавить &amp;папку…</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Remove Photo</source>
+        <translation>&amp;Убрать фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Clear Photos</source>
+        <translation>Убрать &amp;все фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Next Photo</source>
+        <translation>Следующее фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Previous Photo</source>
+        <translation>Предыдущее фото</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Add Photos</source>
+        <translation>Добавить фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Photos (%1);;All Files (*)</source>
+        <translation>Фото (%1);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Add Folder</source>
+        <translation>Добавить папку</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>There are no photos in the folder %1.</source>
+        <translation>В папке %1 нет фото.</translation>
     </message>
 </context>
 <context>

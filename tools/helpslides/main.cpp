@@ -25,6 +25,7 @@
 #include <QLinearGradient>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
@@ -171,6 +172,35 @@ QPixmap overWindow(const QPixmap& window, const QPixmap& dialog)
     return picture;
 }
 
+// As the result view does when it opens: a run at full size, then back to the preview.
+QPixmap largeView(MainPage& page)
+{
+    auto* large = page.representor()->findChild<ImageViewDialog*>();
+    large->resize(900, 560);
+    CommonData::instance()->previewMode = 0;
+    page.nodesOptionsPanel()->slotParametersChanged();
+    const QPixmap picture = grabWindow(large);
+    large->hide();
+    CommonData::instance()->previewMode = 1;
+    page.nodesOptionsPanel()->slotParametersChanged();
+    return picture;
+}
+
+// The page down to the photos with the menu bar's menu of that title open.
+QPixmap withMenuBarMenu(MainPage& page, const char* title)
+{
+    auto* bar = page.findChild<QMenuBar*>("MenuBar");
+    const QString text = QCoreApplication::translate("MainPage", title);
+    QAction* entry = nullptr;
+    const QList<QAction*> entries = bar->actions();
+    for (QAction* action : entries) {
+        if (action->text() == text)
+            entry = action;
+    }
+    return rows(withMenu(&page, entry->menu(), below(bar, bar->actionGeometry(entry))), &page,
+                nullptr, page.creator());
+}
+
 struct Shot
 {
     QPixmap picture;
@@ -273,15 +303,7 @@ QList<Shot> helpShots(const QList<QUrl>& photos, int languageIndex)
     add(overWindow(lower, grabWindow(&save)));
     save.hide();
 
-    // As the result view does when it opens: a run at full size, then back to the preview.
-    auto* large = page.representor()->findChild<ImageViewDialog*>();
-    large->resize(900, 560);
-    CommonData::instance()->previewMode = 0;
-    page.nodesOptionsPanel()->slotParametersChanged();
-    add(grabWindow(large));
-    large->hide();
-    CommonData::instance()->previewMode = 1;
-    page.nodesOptionsPanel()->slotParametersChanged();
+    add(largeView(page));
 
     AppSettingsDialog settings(&page);
     add(overWindow(lower, grabWindow(&settings)));
@@ -293,10 +315,7 @@ QList<Shot> helpShots(const QList<QUrl>& photos, int languageIndex)
     add(grabWindow(batch));
     batch->hide();
 
-    auto* bar = page.findChild<QMenuBar*>("MenuBar");
-    QAction* language = bar->actions().at(0);
-    add(rows(withMenu(&page, language->menu(), below(bar, bar->actionGeometry(language))), &page,
-             nullptr, photoSide));
+    add(withMenuBarMenu(page, "&Language"));
     return shots;
 }
 
@@ -374,8 +393,9 @@ QPixmap wideFlowPanel(const QUrl& photo)
     return grabWindow(&flow);
 }
 
-// The documentation screenshots at actual size: the main window, every kind of node in the flow
-// panel, the watermark options and the two dialogs, in each language.
+// The documentation screenshots at actual size, in each language: the main window with photos,
+// with its File menu open and without photos, the large view, a warning and the language notice,
+// every kind of node in the flow panel, the watermark options and the two dialogs.
 bool writeDocs(const QString& folder, const QList<QUrl>& photos)
 {
     OrkWidgets::TranslationsManager* translations = OrkWidgets::App::instance()->translations();
@@ -388,6 +408,20 @@ bool writeDocs(const QString& folder, const QList<QUrl>& photos)
             sample.page.flowPanel()->loadFlow(sampleFlowText());
             sample.selectNode(0);
             shots << qMakePair(QString("mainwindow"), sample.page.grab());
+            shots << qMakePair(QString("largeview"), largeView(sample.page));
+            shots << qMakePair(QString("filemenu"), withMenuBarMenu(sample.page, "&File"));
+            QMessageBox warning(
+                QMessageBox::Warning, "Warning",
+                QCoreApplication::translate("PhotoActions", "There are no photos in the folder %1.")
+                    .arg("/home/user/Pictures/Empty"),
+                QMessageBox::Ok, &sample.page);
+            shots << qMakePair(QString("messagebox"), grabWindow(&warning));
+            warning.hide();
+            sample.page.slotChooseLanguage(language == "ru" ? "de" : "ru");
+            auto* notice = sample.page.findChild<QMessageBox*>("LanguageNotice");
+            shots << qMakePair(QString("languagenotice"), grabWindow(notice));
+            notice->close();
+            translations->setLanguage(language);
             shots << qMakePair(QString("watermark-options"),
                                sample.page.nodesOptionsPanel()->grab());
             AppSettingsDialog settings(&sample.page);
@@ -397,6 +431,10 @@ bool writeDocs(const QString& folder, const QList<QUrl>& photos)
             batch->slotUpdateInfo(QImage(photos.at(0).toLocalFile()).scaledToWidth(600), 1, 3);
             shots << qMakePair(QString("batch-dialog"), grabWindow(batch));
             batch->hide();
+        }
+        {
+            MainPage empty;
+            shots << qMakePair(QString("mainwindow-empty"), grabWindow(&empty));
         }
         Session all(photos, factoryNodeNames());
         all.selectNode(0);
