@@ -4,13 +4,25 @@
 #include "dropwidget.h"
 #include "flowfile.h"
 #include "mainpage.h"
+#include "pelodineconfig.h"
 #include "singleappcheck.h"
 #include "startup.h"
 
+#include <QTextStream>
 #include <QTimer>
 
 int main(int argc, char* argv[])
 {
+    // Answered before the application object exists, which would need a display.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const QString reply = Startup::commandLineReply(arguments);
+    if (!reply.isEmpty()) {
+        QTextStream(stdout) << reply;
+        return 0;
+    }
+
     auto* app = new OrkWidgets::App(argc, argv, "Qubrast", "Pelodine");
 
     // A second instance hands its files to the first and leaves; when nobody answers, the
@@ -26,7 +38,7 @@ int main(int argc, char* argv[])
     }
 
     app->setHomePage("https://example.org/pelodine");
-    app->setApplicationVersion("1.0");
+    app->setApplicationVersion(PELODINE_VERSION);
     app->setOrganizationDomain("example.org");
     // Lets the desktop match our windows to the installed launcher.
     QGuiApplication::setDesktopFileName("org.qubrast.Pelodine");

@@ -1,7 +1,7 @@
 // The translations (complete, in step with the sources, compiled in and taking effect), the
-// language, help and about menus, the watermark's sliders in Russian, and what it opens from
-// its arguments or from a second instance: photos to the photo side, ".flow" files to the flow
-// panel.
+// language, help and about menus, the watermark's sliders in Russian, what the program
+// prints for --help and --version, and what it opens from its arguments or from a second
+// instance: photos to the photo side, ".flow" files to the flow panel.
 #include "app.h"
 #include "basenode.h"
 #include "commondata.h"
@@ -258,6 +258,27 @@ private slots:
         QCOMPARE(names.join(' '), nodes);
         QCOMPARE(page.isVisible(), opened || dropped);
         QCOMPARE(CommonData::instance()->photoCount, photos);
+    }
+
+    // Answered without a display, so without a window or the application object.
+    void helpAndVersionPrinted()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+            environment.remove(name);
+        QProcess pelodine;
+        pelodine.setProcessEnvironment(environment);
+        QString printed;
+        for (const QLatin1String option : {QLatin1String("-v"), QLatin1String("--help")}) {
+            pelodine.start(PELODINE_PATH, {"photo.jpg", option});
+            QVERIFY(pelodine.waitForFinished(60000) &&
+                    pelodine.exitStatus() == QProcess::NormalExit);
+            QCOMPARE(pelodine.exitCode(), 0);
+            printed += QString::fromLocal8Bit(pelodine.readAllStandardOutput());
+        }
+        QVERIFY2(printed.startsWith("Pelodine 1.0\nUsage: pelodine ") &&
+                     printed.contains("--version"),
+                 qPrintable(printed));
     }
 
     // The longest captions leave the sliders room to be dragged.
