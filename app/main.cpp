@@ -5,14 +5,25 @@
 #include "flowfile.h"
 #include "flowpanel.h"
 #include "mainpage.h"
+#include "pelodineconfig.h"
 #include "singleappcheck.h"
 #include "startup.h"
-#include "translationsmanager.h"
 
+#include <QTextStream>
 #include <QTimer>
 
 int main(int argc, char* argv[])
 {
+    // Answered before the application object exists, which would need a display.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const QString reply = Startup::commandLineReply(arguments);
+    if (!reply.isEmpty()) {
+        QTextStream(stdout) << reply;
+        return 0;
+    }
+
     auto* app = new OrkWidgets::App(argc, argv, "Qubrast", "Pelodine");
 
     // A second instance hands its files to the first and leaves; when nobody answers, the
@@ -28,7 +39,7 @@ int main(int argc, char* argv[])
     }
 
     app->setHomePage("https://example.org/pelodine");
-    app->setApplicationVersion("1.0");
+    app->setApplicationVersion(PELODINE_VERSION);
     app->setOrganizationDomain("example.org");
     // Lets the desktop match our windows to the installed launcher.
     QGuiApplication::setDesktopFileName("org.qubrast.Pelodine");
@@ -44,10 +55,6 @@ int main(int argc, char* argv[])
 
     // The slides of the current language; languages without slides of their own get English.
     app->setHelpSlides(Startup::helpSlides(app->language()));
-    // A language chosen in the menu brings its own slides with it.
-    QObject::connect(
-        app->translations(), &OrkWidgets::TranslationsManager::languageChanged, app,
-        [app](const QString& chosen) { app->setHelpSlides(Startup::helpSlides(chosen)); });
 
     mainPage->setWindowTitle(QCoreApplication::applicationName());
     auto* dropWidget = new OrkWidgets::DropWidget;

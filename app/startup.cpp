@@ -3,6 +3,7 @@
 #include "flowfile.h"
 #include "flowpanel.h"
 #include "mainpage.h"
+#include "pelodineconfig.h"
 
 #include <QFileInfo>
 
@@ -17,6 +18,31 @@ QStringList fileArguments(const QStringList& arguments)
             files << info.absoluteFilePath();
     }
     return files;
+}
+
+QString commandLineReply(const QStringList& arguments)
+{
+    for (int i = 1; i < arguments.size(); ++i) {
+        const QString& argument = arguments.at(i);
+        if (argument == QLatin1String("--version") || argument == QLatin1String("-v"))
+            return QStringLiteral("Pelodine " PELODINE_VERSION "\n");
+        if (argument == QLatin1String("--help") || argument == QLatin1String("-h"))
+            return QStringLiteral(
+                "Usage: pelodine [photo | folder | flow.flow]...\n"
+                "Puts watermarks on photos, resizes, crops and more, in a flow that runs over\n"
+                "all of them in one batch.\n"
+                "\n"
+                "Photos, and the photos inside folders and their subfolders, are added to the\n"
+                "photo list, also of a Pelodine that is running already; a file ending in\n"
+                "\".flow\" is loaded into the flow panel.\n"
+                "\n"
+                "Options:\n"
+                "  -h, --help     Shows this help and exits.\n"
+                "  -v, --version  Shows the version and exits.\n"
+                "\n"
+                "To run a flow over photos without the window: pelodine-batch --help\n");
+    }
+    return {};
 }
 
 QStringList helpSlides(const QString& language)
@@ -56,7 +82,7 @@ bool openPaths(MainPage* page, const QString& lines)
         }
     }
     if (!request.photos.isEmpty())
-        page->slotFilesDropped(request.photos);
+        page->slotFilesAdded(request.photos);
     else if (flowLoaded)
         page->show();
     return flowLoaded || !request.photos.isEmpty();

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QStringList>
 
 namespace PhotoFiles {
 
@@ -79,6 +80,17 @@ QList<QUrl> expandFolders(const QList<QUrl>& urls)
             expanded << url;
     }
     return expanded;
+}
+
+QString namePatterns()
+{
+    QStringList patterns;
+    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    for (const QByteArray& format : formats) {
+        const QString suffix = QString::fromLatin1(format);
+        patterns << "*." + suffix << "*." + suffix.toUpper();
+    }
+    return patterns.join(' ');
 }
 
 } // namespace PhotoFiles

@@ -27,4 +27,8 @@ QSize reducedSize(const QSize& fullSize, int divisor);
 // they are, whatever they hold, so that an unreadable photo still shows up in the list.
 QList<QUrl> expandFolders(const QList<QUrl>& urls);
 
+// "*.bmp *.BMP *.jpg *.JPG ...": the names of every format the reader knows, in both cases,
+// for file dialogs (a desktop's own dialog may match names case-sensitively).
+QString namePatterns();
+
 } // namespace PhotoFiles

@@ -8,6 +8,7 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QImageReader>
 #include <QLabel>
@@ -30,6 +31,7 @@ Creator::Creator(NodesOptionsPanel* optionsPanel, QWidget* parent)
     connect(area, &CreatorDropArea::updateItems, icons, &CreatorIconsView::slotUpdateItems);
     connect(area, &CreatorDropArea::indexChanged, icons, &CreatorIconsView::slotSetCurrentIndex);
     connect(area, &CreatorDropArea::dropped, this, &Creator::slotDropped);
+    connect(area, &CreatorDropArea::updateItems, this, &Creator::slotListChanged);
     connect(icons, &CreatorIconsView::itemClicked, area, &CreatorDropArea::slotItemClicked);
     connect(optionsPanel, &NodesOptionsPanel::imageChanged, this, &Creator::imageChanged);
     connect(optionsPanel, &NodesOptionsPanel::realPreview, this, &Creator::realPreview);
@@ -62,6 +64,7 @@ void Creator::slotDropped(bool loaded)
     const QString path = area->currentPath();
     QImage photo = PhotoFiles::read(path);
     photo.setDevicePixelRatio(1.0);
+    area->setCaption(PhotoLabel::captionText(QFileInfo(path).fileName(), photo.size()));
     optionsPanel->setImage(photo);
     emit formatChanged(QString::fromLatin1(QImageReader::imageFormat(path)));
 }
@@ -85,6 +88,14 @@ void Creator::slotPrevious()
 void Creator::slotGotoFirst()
 {
     area->slotGotoFirst();
+}
+
+void Creator::slotListChanged(const QList<QUrl>& urls)
+{
+    if (urls.isEmpty()) {
+        iconViewButton->setChecked(true);
+        slotShowModeChanged(true);
+    }
 }
 
 void Creator::dragEnterEvent(QDragEnterEvent* event)

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <QImage>
+#include <QList>
 #include <QString>
+#include <QUrl>
 #include <QWidget>
 
 class CreatorDropArea;
@@ -34,6 +36,8 @@ public slots:
     void slotNext();
     void slotPrevious();
     void slotGotoFirst();
+    // Without photos the invitation to drop them shows again, whichever view was chosen.
+    void slotListChanged(const QList<QUrl>& urls);
 
 protected:
     // Photos dropped beside the drop area, on the icon list for example, are taken in as well.

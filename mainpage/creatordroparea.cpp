@@ -16,13 +16,12 @@ CreatorDropArea::CreatorDropArea(QWidget* parent)
     setObjectName("DropArea");
     setFixedSize(360, 360);
     setAcceptDrops(true);
-    setText(tr("<H2>Drop the photos here</H2>"));
-    setBackground(QPixmap(":/droparea.png"));
 
     openButton = new QPushButton(QIcon(":/openfiles.png"), tr("Click to open the photos"), this);
     openButton->setObjectName("PushButton");
     openButton->setFixedHeight(32);
     column->addWidget(openButton);
+    showInvitation(true);
 
     connect(openButton, &QPushButton::clicked, this, &CreatorDropArea::slotOpenClicked);
     connect(nextButton, &QPushButton::clicked, this, &CreatorDropArea::slotNext);
@@ -37,18 +36,52 @@ bool CreatorDropArea::canTake(const QMimeData* data)
 void CreatorDropArea::setPhotos(const QList<QUrl>& newUrls)
 {
     const QList<QUrl> expanded = PhotoFiles::expandFolders(newUrls);
-    if (expanded.isEmpty())
+    if (!expanded.isEmpty())
+        takeList(expanded, 0, true);
+}
+
+void CreatorDropArea::addPhotos(const QList<QUrl>& newUrls)
+{
+    const QList<QUrl> expanded = PhotoFiles::expandFolders(newUrls);
+    if (!expanded.isEmpty())
+        takeList(urls + expanded, index, urls.isEmpty());
+}
+
+void CreatorDropArea::slotRemoveCurrent()
+{
+    if (urls.isEmpty())
         return;
-    urls = expanded;
-    index = 0;
-    path = urls.first().toLocalFile();
-    openButton->hide();
-    setBackground({});
-    showCurrentPhoto();
-    setText({});
-    emit dropped(true);
+    QList<QUrl> rest = urls;
+    rest.removeAt(index);
+    takeList(rest, qMin(index, rest.size() - 1), true);
+}
+
+void CreatorDropArea::slotClear()
+{
+    if (!urls.isEmpty())
+        takeList({}, 0, true);
+}
+
+void CreatorDropArea::takeList(const QList<QUrl>& newUrls, int newIndex, bool load)
+{
+    urls = newUrls;
+    index = qMax(newIndex, 0);
+    path = urls.isEmpty() ? QString() : urls.at(index).toLocalFile();
+    showInvitation(urls.isEmpty());
+    // An empty path shows no picture and hands on a null photo: the result side empties too.
+    if (load) {
+        showCurrentPhoto();
+        emit dropped(true);
+    }
     refreshCounter();
     emit updateItems(urls);
+}
+
+void CreatorDropArea::showInvitation(bool shown)
+{
+    openButton->setVisible(shown);
+    setBackground(shown ? QPixmap(":/droparea.png") : QPixmap());
+    setText(shown ? tr("<H2>Drop the photos here</H2>") : QString());
 }
 
 void CreatorDropArea::slotOpenClicked()

@@ -22,6 +22,9 @@ public:
     // Takes in a new photo list: folders stand for the photos inside them, the first photo
     // becomes current and is shown. A list that holds no photo at all changes nothing.
     void setPhotos(const QList<QUrl>& urls);
+    // Appends photos, folders standing for the photos inside them; the current photo stays, or
+    // the first new one becomes current when there was none.
+    void addPhotos(const QList<QUrl>& urls);
     QList<QUrl> photos() const { return urls; }
     int currentIndex() const { return index; }
     QString currentPath() const { return path; }
@@ -41,6 +44,11 @@ public slots:
     void slotGotoFirst();
     // The icon list chose the photo, so it is not told back.
     void slotItemClicked(int i);
+    // Takes the current photo out of the list; the one after it, or else the new last one,
+    // becomes current. Removing the only photo is clearing.
+    void slotRemoveCurrent();
+    // Back to no photos and the invitation to drop them.
+    void slotClear();
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -49,6 +57,10 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    // The list becomes newUrls with newIndex current, shown and loaded when load is set (the
+    // current photo is another one).
+    void takeList(const QList<QUrl>& newUrls, int newIndex, bool load);
+    void showInvitation(bool shown);
     void moveTo(int newIndex);
     void showCurrentPhoto();
     void refreshCounter();

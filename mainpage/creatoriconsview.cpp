@@ -69,6 +69,8 @@ CreatorIconsView::CreatorIconsView(QWidget* parent)
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setItemDelegate(new IconCellDelegate(this));
+    // The page adds the photo list's commands; a right click first makes its photo current.
+    setContextMenuPolicy(Qt::ActionsContextMenu);
     setModel(CommonData::instance()->itemsModel());
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this,
             &CreatorIconsView::slotCurrentItem);
@@ -77,8 +79,10 @@ CreatorIconsView::CreatorIconsView(QWidget* parent)
 void CreatorIconsView::slotUpdateItems(const QList<QUrl>& urls)
 {
     quiet = true;
-    CommonData::instance()->itemsModel()->setPhotos(urls);
-    slotSetCurrentIndex(0);
+    CommonData* data = CommonData::instance();
+    data->itemsModel()->setPhotos(urls);
+    // The drop area has stored its current photo already, and has loaded it.
+    slotSetCurrentIndex(data->currentIndex);
     quiet = false;
 }
 

@@ -22,6 +22,11 @@ void ImagePreview::setResult(const QImage& result)
     setPicture(result.isNull() ? QPixmap()
                                : QPixmap::fromImage(result.scaled(box, Qt::KeepAspectRatio,
                                                                   Qt::SmoothTransformation)));
+    // The live run works on a reduced copy and leaves out what only the full size shows, so
+    // its size is not that of the result a batch writes.
+    const QString size = captionText({}, result.size());
+    const bool preview = CommonData::instance()->previewMode != 0;
+    setCaption(preview && !size.isEmpty() ? tr("Preview · %1").arg(size) : size);
 }
 
 void ImagePreview::enterEvent(QEvent* event)

@@ -12,7 +12,8 @@ class ImagePreview : public PhotoLabel
 public:
     explicit ImagePreview(QWidget* parent = nullptr);
 
-    // Scaled to the view's size times the screen's device pixel ratio, keeping the aspect.
+    // Scaled to the view's size times the screen's device pixel ratio, keeping the aspect; the
+    // caption gives the result's size, marked as the preview's while the live run made it.
     void setResult(const QImage& result);
 
 signals:

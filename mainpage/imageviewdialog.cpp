@@ -2,6 +2,7 @@
 
 #include "commondata.h"
 #include "imageviewer.h"
+#include "itemsmodel.h"
 #include "photolabel.h"
 
 #include <QCoreApplication>
@@ -33,8 +34,10 @@ void ImageViewDialog::setImage(const QImage& image)
     // Lets the viewer finish painting the previous result before the next one replaces it.
     if (isVisible())
         QCoreApplication::processEvents();
-    const CommonData* data = CommonData::instance();
+    CommonData* data = CommonData::instance();
     imageViewer->setHeading(PhotoLabel::positionText(data->currentIndex, data->photoCount));
+    const QUrl photo = data->itemsModel()->photos().value(data->currentIndex);
+    imageViewer->setCaption(PhotoLabel::captionText(photo.fileName(), image.size()));
     imageViewer->setImage(image);
     imageViewer->setNavigationHidden(data->photoCount < 2);
 }

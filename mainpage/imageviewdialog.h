@@ -18,8 +18,8 @@ class ImageViewDialog : public QDialog
 public:
     explicit ImageViewDialog(QWidget* parent = nullptr);
 
-    // Shows a result with the heading "n of m" of the current photo; stepping is offered only
-    // for two photos or more.
+    // Shows a result with the heading "n of m" of the current photo and below it the photo's
+    // file name with the result's size; stepping is offered only for two photos or more.
     void setImage(const QImage& image);
 
     // Grows the dialog from start to target over one second, quintic ease-out.

@@ -5,12 +5,15 @@
 #include "basenode.h"
 #include "creator.h"
 #include "creatordroparea.h"
+#include "creatoriconsview.h"
 #include "flatbutton.h"
 #include "flowpanel.h"
 #include "nodesoptionspanel.h"
+#include "photoactions.h"
 #include "representor.h"
 #include "translationsmanager.h"
 
+#include <QAction>
 #include <QActionGroup>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -51,7 +54,9 @@ MainPage::MainPage(QWidget* parent)
         OrkWidgets::newFlatButton("SettingsButton", menuBar, QString(), tr("Output settings"));
     menuBar->setCornerWidget(settingsButton, Qt::TopRightCorner);
     connect(settingsButton, &QPushButton::clicked, this, &MainPage::slotShowSettings);
+    photoActions = new PhotoActions(photoSide, this);
     buildMenus();
+    addPageShortcuts();
 
     auto* sides = new QHBoxLayout;
     sides->addStretch(1);
@@ -79,11 +84,35 @@ const struct
 
 } // namespace
 
+void MainPage::buildFileMenu()
+{
+    QMenu* fileMenu = menuBar->addMenu(tr("&File"));
+    fileMenu->addAction(photoActions->addPhotos());
+    fileMenu->addAction(photoActions->addFolder());
+    fileMenu->addSeparator();
+    fileMenu->addAction(photoActions->removePhoto());
+    fileMenu->addAction(photoActions->clearPhotos());
+    fileMenu->addSeparator();
+    fileMenu->addAction(tr("&Quit"), qApp, &QCoreApplication::quit,
+                        QKeySequence(Qt::CTRL + Qt::Key_Q));
+    photoSide->iconsView()->addActions({photoActions->addPhotos(), photoActions->removePhoto()});
+}
+
+void MainPage::addPageShortcuts()
+{
+    addActions({photoActions->nextPhoto(), photoActions->previousPhoto()});
+    auto* saveFlow = new QAction(tr("Save Flow"), this);
+    saveFlow->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_S));
+    connect(saveFlow, &QAction::triggered, flow, &FlowPanel::slotSaveFlow);
+    addAction(saveFlow);
+}
+
 void MainPage::buildMenus()
 {
+    buildFileMenu();
     OrkWidgets::App* app = OrkWidgets::App::instance();
     // Languages the program has no texts for show in English.
-    const QString current = app ? app->language() : QString();
+    const QString current = app ? app->translations()->chosenLanguage() : QString();
 
     buildEditMenu();
 
@@ -107,7 +136,8 @@ void MainPage::buildMenus()
     helpMenu->setEnabled(app != nullptr);
     if (!app)
         return;
-    helpMenu->addAction(tr("Show &Help"), app, &OrkWidgets::App::slotHelp);
+    helpMenu->addAction(tr("Show &Help"), app, &OrkWidgets::App::slotHelp,
+                        QKeySequence(Qt::Key_F1));
     helpMenu->addAction(tr("&About %1").arg(QCoreApplication::applicationName()), app,
                         &OrkWidgets::App::slotAbout);
 }
@@ -126,23 +156,35 @@ void MainPage::buildEditMenu()
 void MainPage::slotChooseLanguage(const QString& language)
 {
     OrkWidgets::App* app = OrkWidgets::App::instance();
-    if (!app || language == app->language())
+    if (!app || language == app->translations()->chosenLanguage())
         return;
-    // Installed at once, so the notice below already speaks the chosen language.
-    app->translations()->setLanguage(language);
-    auto* notice = new QMessageBox(QMessageBox::Information, QCoreApplication::applicationName(),
-                                   tr("The new language is used from the next start of %1.")
-                                       .arg(QCoreApplication::applicationName()),
-                                   QMessageBox::Ok, this);
-    notice->setObjectName("LanguageNotice");
-    notice->setAttribute(Qt::WA_DeleteOnClose);
-    notice->open();
+    app->translations()->chooseForNextStart(language);
+    // Said in the chosen language, the one reader sure to understand it.
+    const QString notice = app->translations()->programText(
+        language, "MainPage", QT_TR_NOOP("The new language is used from the next start of %1."));
+    auto* box =
+        new QMessageBox(QMessageBox::Information, QCoreApplication::applicationName(),
+                        notice.arg(QCoreApplication::applicationName()), QMessageBox::Ok, this);
+    box->setObjectName("LanguageNotice");
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 void MainPage::slotFilesDropped(const QList<QUrl>& urls)
 {
     if (!urls.isEmpty())
         photoSide->dropArea()->setPhotos(urls);
+    showOfferingHelp();
+}
+
+void MainPage::slotFilesAdded(const QList<QUrl>& urls)
+{
+    photoSide->dropArea()->addPhotos(urls);
+    showOfferingHelp();
+}
+
+void MainPage::showOfferingHelp()
+{
     show();
     OrkWidgets::App* app = OrkWidgets::App::instance();
     if (!app)

@@ -8,6 +8,7 @@
 class Creator;
 class FlowPanel;
 class NodesOptionsPanel;
+class PhotoActions;
 class QActionGroup;
 class QMenuBar;
 class QPushButton;
@@ -24,19 +25,27 @@ public:
     Creator* creator() const { return photoSide; }
     Representor* representor() const { return resultSide; }
     FlowPanel* flowPanel() const { return flow; }
+    PhotoActions* photoCommands() const { return photoActions; }
 
 public slots:
-    // Photos from the drop window, a second instance or the command line: a non-empty list
-    // replaces the photo list; the page is shown in any case.
+    // Photos dropped on the drop window: a non-empty list replaces the photo list; the page is
+    // shown in any case.
     void slotFilesDropped(const QList<QUrl>& urls);
+    // Photos from the command line or a second instance: appended to the list; the page is
+    // shown.
+    void slotFilesAdded(const QList<QUrl>& urls);
     // The output settings, modal.
     void slotShowSettings();
-    // Stores the language through the translations manager and says that the windows follow
-    // at the next start.
+    // Stores the language for the next start, says so in that language, and changes nothing
+    // on screen before.
     void slotChooseLanguage(const QString& language);
 
 private:
     void buildMenus();
+    void buildFileMenu();
+    // The page's keys that no menu shows.
+    void addPageShortcuts();
+    void showOfferingHelp();
     // Undo and redo of the flow's changes.
     void buildEditMenu();
 
@@ -47,4 +56,5 @@ private:
     QMenuBar* menuBar = nullptr;
     QPushButton* settingsButton = nullptr;
     QActionGroup* languageGroup = nullptr;
+    PhotoActions* photoActions = nullptr;
 };

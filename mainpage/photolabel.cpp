@@ -37,11 +37,17 @@ PhotoLabel::PhotoLabel(QWidget* parent)
     infoLabel = new QLabel(this);
     infoLabel->setAlignment(Qt::AlignCenter);
     infoLabel->hide();
+    captionLabel = new QLabel(this);
+    captionLabel->setObjectName("PhotoCaption");
+    captionLabel->setAlignment(Qt::AlignCenter);
+    captionLabel->setTextFormat(Qt::PlainText);
+    captionLabel->hide();
 
     column = new QVBoxLayout;
     column->setContentsMargins(0, 0, 0, 0);
     column->addStretch(1);
     column->addWidget(infoLabel);
+    column->addWidget(captionLabel, 0, Qt::AlignHCenter);
 
     auto* row = new QHBoxLayout(this);
     row->addWidget(previousButton);
@@ -54,6 +60,26 @@ PhotoLabel::PhotoLabel(QWidget* parent)
 QString PhotoLabel::positionText(int index, int count)
 {
     return tr("<H1>%1 of %2</H1>").arg(index + 1).arg(count);
+}
+
+void PhotoLabel::setCaption(const QString& caption)
+{
+    captionLabel->setText(caption);
+    captionLabel->setHidden(caption.isEmpty());
+}
+
+QString PhotoLabel::caption() const
+{
+    return captionLabel->text();
+}
+
+QString PhotoLabel::captionText(const QString& fileName, const QSize& size)
+{
+    const QString pixels =
+        size.isEmpty() ? QString() : QString("%1 × %2").arg(size.width()).arg(size.height());
+    if (fileName.isEmpty() || pixels.isEmpty())
+        return fileName + pixels;
+    return fileName + " · " + pixels;
 }
 
 void PhotoLabel::setPicture(const QPixmap& picture)

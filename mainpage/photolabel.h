@@ -23,6 +23,13 @@ public:
     // "<H1>n of m</H1>" for the 0-based index of count photos.
     static QString positionText(int index, int count);
 
+    // A line at the foot of the area, under the info line, shown while it is not empty.
+    void setCaption(const QString& caption);
+    QString caption() const;
+    // "IMG_0001.jpg · 4000 × 3000"; without a name only the size, for an empty size only the
+    // name.
+    static QString captionText(const QString& fileName, const QSize& size);
+
 protected:
     // Drawn fitted under the text while there is no picture.
     void setBackground(const QPixmap& background);
@@ -32,10 +39,11 @@ protected:
     QPushButton* previousButton = nullptr;
     QPushButton* nextButton = nullptr;
     QLabel* infoLabel = nullptr;
-    // The middle column: a stretch, the info label, then what a subclass appends.
+    // The middle column: a stretch, the info label, the caption, then what a subclass appends.
     QVBoxLayout* column = nullptr;
 
 private:
+    QLabel* captionLabel = nullptr;
     QPixmap shownPicture;
     QPixmap backgroundPicture;
 };

@@ -2,6 +2,7 @@
 
 #include "colorbutton.h"
 #include "flatbutton.h"
+#include "photofiles.h"
 #include "ui/comboslider.h"
 #include "ui/directionswidget.h"
 
@@ -13,7 +14,6 @@
 #include <QFontComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QImageReader>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -33,6 +33,8 @@ const bool captionsAbove = true;
 const bool captionsBeside = false;
 const bool packed = true;
 const int fontComboLetters = 6;
+// Long captions (Russian ones) would otherwise squeeze the sliders to a few pixels.
+const int sliderMinimumWidth = 80;
 
 // A form whose captions go above or beside its fields, appended to parent.
 QFormLayout* newForm(QBoxLayout* parent, bool above)
@@ -155,6 +157,8 @@ WMRNode::WMRNode(QWidget* parent)
     addRow(what, key("ImageName").translatedCaption(),
            newRowFields({logoLine, browseButton}, !packed), logoMode, true);
     QFormLayout* strength = newForm(columns, captionsAbove);
+    for (ComboSlider* slider : {sizeSlider, transparencySlider})
+        slider->setSliderMinimumWidth(sliderMinimumWidth);
     addRow(strength, key("Size").translatedCaption(), sizeSlider, bothModes, false);
     addRow(strength, key("Transparency").translatedCaption(), transparencySlider, bothModes, false);
     auto* where = new QVBoxLayout;
@@ -211,13 +215,9 @@ void WMRNode::slotModeChanged(int mode)
 
 void WMRNode::slotWMRBrowse()
 {
-    QStringList patterns;
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const QByteArray& format : formats)
-        patterns << "*." + QString::fromLatin1(format);
-    const QString fileName =
-        QFileDialog::getOpenFileName(this, tr("Open the watermark file"), QString(),
-                                     tr("Images (%1);;All files (*)").arg(patterns.join(' ')));
+    const QString fileName = QFileDialog::getOpenFileName(
+        this, tr("Open the watermark file"), QString(),
+        tr("Images (%1);;All files (*)").arg(PhotoFiles::namePatterns()));
     if (!fileName.isEmpty())
         openLogoFile(fileName);
 }

@@ -31,7 +31,7 @@ render() {
 
 for name in Icon_BIN Icon_BLR Icon_BRT Icon_CRP Icon_FRM Icon_HST Icon_INV Icon_MRR Icon_RGB \
     Icon_RSZ Icon_RTT Icon_WGN Icon_GRS Icon_WMR DisabledNode droparea openfiles new save \
-    delete GotoIcon menubar initlabel_en; do
+    delete GotoIcon menubar initlabel; do
     render "$svg/$name.svg" "$out/$name"
 done
 # The watermark logo is stretched over photos of any size: one large picture, no @2x.

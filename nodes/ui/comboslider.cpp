@@ -1,6 +1,7 @@
 #include "comboslider.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -17,6 +18,7 @@ ComboSlider::ComboSlider(const QString& title, QWidget* parent)
     slider->setTickPosition(QSlider::TicksBothSides);
     slider->setTickInterval(20);
     unitLabel->hide();
+    slider->installEventFilter(this);
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -95,4 +97,21 @@ int ComboSlider::tickInterval() const
 int ComboSlider::singleStep() const
 {
     return slider->singleStep();
+}
+
+void ComboSlider::setSliderMinimumWidth(int width)
+{
+    slider->setMinimumWidth(width);
+}
+
+bool ComboSlider::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == slider && event->type() == QEvent::ShortcutOverride) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right) {
+            event->accept();
+            return true;
+        }
+    }
+    return QFrame::eventFilter(watched, event);
 }

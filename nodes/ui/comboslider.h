@@ -27,6 +27,12 @@ public:
     // An empty unit hides the unit label.
     void setUnit(const QString& unit);
     QString unit() const;
+    // However long the captions of a language, the slider keeps this much room to be dragged.
+    void setSliderMinimumWidth(int width);
+
+protected:
+    // A focused slider keeps its arrow keys where the window uses them as shortcuts.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     // Once for every change of the value, whether from the slider, the spin box or a call.

@@ -8,19 +8,27 @@
 #include "nodecatalogue.h"
 
 #include <QCoreApplication>
+#include <QLabel>
 #include <QPointer>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <QVector>
 
+namespace {
+// Where the picture leaves room for the hint.
+const int startHintLeft = 118;
+const int startHintWidth = 370;
+} // namespace
+
 NodesOptionsPanel::NodesOptionsPanel(QWidget* parent)
     : QFrame(parent)
-    , startLabel(new OrkWidgets::ImageLabel(":/initlabel_en.png", this))
+    , startLabel(new OrkWidgets::ImageLabel(":/initlabel.png", this))
     , stack(new QStackedWidget(this))
 {
     OrkWidgets::AnimatedLabel* arrow =
         startLabel->addAnimation(":/arrow.gif", QSize(100, 100), Qt::AlignLeft | Qt::AlignBottom);
     arrow->setRepeatDelay(10000);
+    addStartHint();
     // The picture is drawn for the whole window width; the panel inside the window's border is
     // a few pixels narrower and shows it centred, so the picture must not set the panel's size.
     startLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
@@ -30,6 +38,29 @@ NodesOptionsPanel::NodesOptionsPanel(QWidget* parent)
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);
     layout->addWidget(stack);
+}
+
+void NodesOptionsPanel::addStartHint()
+{
+    auto* title = new QLabel(tr("Build your flow"), startLabel);
+    title->setObjectName("StartHintTitle");
+    auto* text =
+        new QLabel(tr("Add an operation with the %1 button below.")
+                           .arg("<span style=\"color: #3daee9; font-weight: bold;\">+</span>") +
+                       "<br>" + tr("Its options will appear here."),
+                   startLabel);
+    text->setObjectName("StartHintText");
+    for (QLabel* label : {title, text}) {
+        label->setWordWrap(true);
+        label->setFixedWidth(startHintWidth);
+    }
+    // Left of the little flow in the picture, right of the arrow's corner.
+    auto* hint = new QVBoxLayout;
+    hint->setContentsMargins(startHintLeft, 0, 0, 0);
+    hint->setSpacing(6);
+    hint->addWidget(title);
+    hint->addWidget(text);
+    startLabel->addOverlay(hint, Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 BaseNode* NodesOptionsPanel::createNode(const QString& name)

@@ -50,6 +50,8 @@ public slots:
     void slotParametersChanged();
 
 private:
+    // The invitation to add the first operation, over the start picture.
+    void addStartHint();
     // Pending events run between the nodes, so a change made meanwhile may start a run of its
     // own from inside this one; this run then goes on with its own copy.
     void runFlow();

@@ -289,7 +289,7 @@
 <context>
     <name>Creator</name>
     <message>
-        <location filename="../../mainpage/creator.cpp" line="+37"/>
+        <location filename="../../mainpage/creator.cpp" line="+39"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Оригинал&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
@@ -302,17 +302,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+19"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+84"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Перетащите фото сюда&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="-64"/>
         <source>Click to open the photos</source>
         <translation>Нажмите, чтобы открыть фото</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+69"/>
         <source>Open the photos</source>
         <translation>Открыть фото</translation>
     </message>
@@ -539,11 +539,16 @@ Overwrite?</source>
         <source>&lt;H1&gt;INFO&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;ИНФО&lt;/H1&gt;</translation>
     </message>
+    <message>
+        <location line="+16"/>
+        <source>Preview · %1</source>
+        <translation>Превью · %1</translation>
+    </message>
 </context>
 <context>
     <name>ImageViewDialog</name>
     <message>
-        <location filename="../../mainpage/imageviewdialog.cpp" line="+14"/>
+        <location filename="../../mainpage/imageviewdialog.cpp" line="+15"/>
         <source>Result</source>
         <translation>Результат</translation>
     </message>
@@ -564,12 +569,27 @@ Overwrite?</source>
 <context>
     <name>MainPage</name>
     <message>
-        <location filename="../../mainpage/mainpage.cpp" line="+51"/>
+        <location filename="../../mainpage/mainpage.cpp" line="+54"/>
         <source>Output settings</source>
         <translation>Параметры вывода</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+35"/>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Save Flow</source>
+        <translation>Сохранить сценарий</translation>
+    </message>
+    <message>
+        <location line="+15"/>
         <source>&amp;Language</source>
         <translation>&amp;Язык</translation>
     </message>
@@ -584,7 +604,7 @@ Overwrite?</source>
         <translation>Показать &amp;справку</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
         <source>&amp;About %1</source>
         <translation>&amp;О программе %1</translation>
     </message>
@@ -746,6 +766,82 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>NodesOptionsPanel</name>
+    <message>
+        <location filename="../../nodes/ui/nodesoptionspanel.cpp" line="+45"/>
+        <source>Build your flow</source>
+        <translation>Создайте сценарий</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Add an operation with the %1 button below.</source>
+        <translation>Добавьте шаг кнопкой %1 внизу.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Its options will appear here.</source>
+        <translation>Здесь появятся его параметры.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoActions</name>
+    <message>
+        <location filename="../../mainpage/photoactions.cpp" line="+23"/>
+        <source>&amp;Add Photos…</source>
+        <translation>&amp;Добавить фото…</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add &amp;Folder…</source>
+        <translation>Добавить &amp;папку…</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Remove Photo</source>
+        <translation>&amp;Убрать фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;Clear Photos</source>
+        <translation>Убрать &amp;все фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Next Photo</source>
+        <translation>Следующее фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Previous Photo</source>
+        <translation>Предыдущее фото</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Add Photos</source>
+        <translation>Добавить фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Photos (%1);;All Files (*)</source>
+        <translation>Фото (%1);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Add Folder</source>
+        <translation>Добавить папку</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>There are no photos in the folder %1.</source>
+        <translation>В папке %1 нет фото.</translation>
+    </message>
+</context>
+<context>
     <name>PhotoLabel</name>
     <message>
         <location filename="../../mainpage/photolabel.cpp" line="+35"/>
@@ -758,7 +854,7 @@ Overwrite?</source>
         <translation>Следующее фото</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+26"/>
         <source>&lt;H1&gt;%1 of %2&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;%1 из %2&lt;/H1&gt;</translation>
     </message>
@@ -882,7 +978,7 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+91"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+93"/>
         <source>Fewer options</source>
         <translation>Меньше параметров</translation>
     </message>
@@ -939,7 +1035,7 @@ Overwrite?</source>
     <message>
         <location line="+1"/>
         <source>Image</source>
-        <translation>Изображение</translation>
+        <translation>Логотип</translation>
     </message>
     <message>
         <location line="+5"/>
@@ -997,7 +1093,7 @@ Overwrite?</source>
         <translation>Растянуть:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+56"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+58"/>
         <source>Warning</source>
         <translation>Предупреждение</translation>
     </message>
@@ -1007,7 +1103,7 @@ Overwrite?</source>
         <translation>Не удаётся открыть файл изображения:</translation>
     </message>
     <message>
-        <location line="+23"/>
+        <location line="+19"/>
         <source>Open the watermark file</source>
         <translation>Открыть файл водяного знака</translation>
     </message>

@@ -63,7 +63,7 @@
 <context>
     <name>OrkWidgets::ImageViewer</name>
     <message>
-        <location filename="../../libs/cpp/OrkWidgets/imageviewer.cpp" line="+37"/>
+        <location filename="../../libs/cpp/OrkWidgets/imageviewer.cpp" line="+42"/>
         <source>-</source>
         <translation>-</translation>
     </message>
@@ -113,7 +113,7 @@
         <translation>Schließen (Esc)</translation>
     </message>
     <message>
-        <location line="+26"/>
+        <location line="+27"/>
         <source>Previous photo (Left)</source>
         <translation>Vorheriges Foto (Links)</translation>
     </message>

@@ -1,5 +1,6 @@
 // The translations (complete, in step with the sources, compiled in and taking effect), the
-// language, help and about menus, and what the program opens from its arguments or from a second
+// language, help and about menus, the watermark's sliders in Russian, what the program
+// prints for --help and --version, and what it opens from its arguments or from a second
 // instance: photos to the photo side, ".flow" files to the flow panel.
 #include "app.h"
 #include "basenode.h"
@@ -8,6 +9,8 @@
 #include "flowpanel.h"
 #include "mainpage.h"
 #include "nodecatalogue.h"
+#include "nodesoptionspanel.h"
+#include "photolabel.h"
 #include "startup.h"
 #include "testutils.h"
 #include "translationsmanager.h"
@@ -20,6 +23,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QSlider>
 
 using OrkWidgets::App;
 using TestUtils::addRow;
@@ -59,11 +63,14 @@ QStringList fixedParts(const QString& text)
     return found;
 }
 
-// The Language and Help menus come last, whatever menus come before them.
-QMenu* menuFromEnd(const MainPage& page, int place)
+QMenu* menuTitled(const MainPage& page, const QString& title)
 {
-    const QList<QAction*> menus = page.findChild<QMenuBar*>("MenuBar")->actions();
-    return menus.value(menus.size() - place)->menu();
+    const QList<QAction*> entries = page.findChild<QMenuBar*>("MenuBar")->actions();
+    for (QAction* entry : entries) {
+        if (entry->text() == title)
+            return entry->menu();
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -148,8 +155,8 @@ private slots:
         addRow("Русский", 2, "Новый язык будет использоваться после следующего запуска Pelodine.");
     }
 
-    // Each language under its own name; the notice comes in the chosen language, its
-    // translators installed at once, and a new page checks it.
+    // Each language under its own name; the notice comes in the chosen language, while every
+    // text made before the next start stays in the running one; a new page checks the choice.
     void choosingALanguage()
     {
         QFETCH(int, row);
@@ -161,12 +168,17 @@ private slots:
         const auto* bar = page.findChild<QMenuBar*>("MenuBar");
         for (QAction* action : bar->actions())
             QVERIFY2(bar->rect().contains(bar->actionGeometry(action)), qPrintable(action->text()));
-        const QList<QAction*> actions = menuFromEnd(page, 2)->actions();
+        const QList<QAction*> actions = menuTitled(page, "&Language")->actions();
         QVERIFY(actions.size() == 3 && actions[0]->isChecked() && actions[0]->text() == "English");
         QCOMPARE(actions[row]->text(), QString(QTest::currentDataTag()));
         actions[row]->trigger();
-        QCOMPARE(page.findChild<QMessageBox*>("LanguageNotice")->text(), notice);
-        QVERIFY(menuFromEnd(MainPage(), 2)->actions()[row]->isChecked());
+        auto* box = page.findChild<QMessageBox*>("LanguageNotice");
+        QCOMPARE(box->text(), notice);
+        QCOMPARE(PhotoLabel::positionText(0, 24), QString("<H1>1 of 24</H1>"));
+        QCOMPARE(QSettings().value("Language").toString(), actions[row]->data().toString());
+        QVERIFY(menuTitled(MainPage(), "&Language")->actions()[row]->isChecked());
+        // The icon keeps to its own width, leaving no gap before the text.
+        QTRY_VERIFY(box->findChild<QLabel*>("qt_msgbox_label")->x() < 80);
     }
 
     void helpAndAbout()
@@ -178,7 +190,10 @@ private slots:
         MainPage page;
         App::instance()->setMainWidget(&page);
         App::instance()->setHelpSlides(slides);
-        menuFromEnd(page, 1)->actions().at(0)->trigger();
+        page.show();
+        page.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        QTest::keyClick(&page, Qt::Key_F1);
         auto* window = page.findChild<QDialog*>("HelpWindow");
         QVERIFY(window && window->isVisible());
         // The whole 1000 x 700 slide shows, at most reduced to the screen: none of it is cut off.
@@ -201,11 +216,14 @@ private slots:
         QTest::addColumn<bool>("opened");
         QTest::addColumn<QString>("nodes");
         QTest::addColumn<int>("photos");
-        addRow("pelodine my.flow", "my.flow", true, "Crop Invert", 0);
+        QTest::addColumn<bool>("dropped"); // a photo on the page before
+        addRow("pelodine my.flow", "my.flow", true, "Crop Invert", 0, false);
         // Lines ending in ".flow", in any case, are flows; the others photos.
-        addRow("photo and flow", "photo.flow.png my.flow", true, "Crop Invert", 1);
-        addRow("the last readable flow wins", "my.flow other.FLOW gone.flow", true, "Watermark", 0);
-        addRow("unreadable flow opens nothing", "gone.flow", false, "", 0);
+        addRow("photo and flow", "photo.flow.png my.flow", true, "Crop Invert", 1, false);
+        addRow("the last readable flow wins", "my.flow other.FLOW gone.flow", true, "Watermark", 0,
+               false);
+        addRow("unreadable flow opens nothing", "gone.flow", false, "", 0, false);
+        addRow("photos join those there", "photo.flow.png photo.flow.png", true, "", 3, true);
     }
 
     void openPaths()
@@ -214,6 +232,7 @@ private slots:
         QFETCH(bool, opened);
         QFETCH(QString, nodes);
         QFETCH(int, photos);
+        QFETCH(bool, dropped);
         QTemporaryDir dir;
         const QString flow = TestUtils::writeFile(
             dir.filePath("my.flow"), "<OperationsFlow><Operation name=\"Crop\" index=\"0\"/>"
@@ -229,14 +248,51 @@ private slots:
                  (QStringList{flow, photo}));
         CommonData::instance()->photoCount = 0;
         MainPage page;
+        if (dropped)
+            page.slotFilesDropped({QUrl::fromLocalFile(photo)});
         const QString lines = dir.path() + "/" + files.split(' ').join("\n" + dir.path() + "/");
         QCOMPARE(Startup::openPaths(&page, lines + "\n"), opened);
         QStringList names;
         for (const BaseNode* node : page.flowPanel()->flow())
             names << node->name();
         QCOMPARE(names.join(' '), nodes);
-        QCOMPARE(page.isVisible(), opened);
+        QCOMPARE(page.isVisible(), opened || dropped);
         QCOMPARE(CommonData::instance()->photoCount, photos);
+    }
+
+    // Answered without a display, so without a window or the application object.
+    void helpAndVersionPrinted()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+            environment.remove(name);
+        QProcess pelodine;
+        pelodine.setProcessEnvironment(environment);
+        QString printed;
+        for (const QLatin1String option : {QLatin1String("-v"), QLatin1String("--help")}) {
+            pelodine.start(PELODINE_PATH, {"photo.jpg", option});
+            QVERIFY(pelodine.waitForFinished(60000) &&
+                    pelodine.exitStatus() == QProcess::NormalExit);
+            QCOMPARE(pelodine.exitCode(), 0);
+            printed += QString::fromLocal8Bit(pelodine.readAllStandardOutput());
+        }
+        QVERIFY2(printed.startsWith("Pelodine 1.0\nUsage: pelodine ") &&
+                     printed.contains("--version"),
+                 qPrintable(printed));
+    }
+
+    // The longest captions leave the sliders room to be dragged.
+    void watermarkSliders()
+    {
+        App::instance()->translations()->setLanguage("ru");
+        MainPage page;
+        page.nodesOptionsPanel()->createNode("Watermark");
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        const QList<QSlider*> sliders = page.nodesOptionsPanel()->findChildren<QSlider*>();
+        QCOMPARE(sliders.size(), 2);
+        for (const QSlider* slider : sliders)
+            QVERIFY2(slider->width() >= 80, qPrintable(QString::number(slider->width())));
     }
 };
 

@@ -1,5 +1,6 @@
-// The main page: photos read upright, their thumbnails, photos dropped in and stepped through,
-// the live preview on a reduced copy, the large view at full size and the batch run.
+// The main page: photos read upright, their thumbnails, photos dropped in, added, removed and
+// stepped through, the live preview on a reduced copy, the large view at full size and the batch
+// run.
 #include "app.h"
 #include "appdata.h"
 #include "basenode.h"
@@ -14,15 +15,23 @@
 #include "itemsmodel.h"
 #include "mainpage.h"
 #include "nodesoptionspanel.h"
+#include "photoactions.h"
 #include "photofiles.h"
 #include "representor.h"
 #include "testutils.h"
 
+#include <QAction>
 #include <QDirIterator>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSettings>
 #include <QSignalSpy>
+#include <QSlider>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
@@ -67,12 +76,23 @@ private slots:
     void dropPhotos();
     void steppingHandsOnThePhoto_data();
     void steppingHandsOnThePhoto();
+    void editingTheList_data();
+    void editingTheList();
+    void addingByDialog_data();
+    void addingByDialog();
     void largeViewRunsFullSize();
     void batchRunsActiveNodesOnThePhotos();
 
 private:
     QList<QUrl> photos(const QStringList& names) const;
     CreatorDropArea* area() const { return page->creator()->dropArea(); }
+    // Shortcuts reach only the active window.
+    void showActive()
+    {
+        page->show();
+        page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page));
+    }
 
     QTemporaryDir dir;
     MainPage* page = nullptr;
@@ -314,6 +334,165 @@ void TestMainPage::steppingHandsOnThePhoto()
     QCOMPARE(area()->picture().size(), expected[index][3]);
     QCOMPARE(hoverInfo(area()), QString("<CENTER><H1>%1 of 4</H1></CENTER>").arg(index + 1));
     QCOMPARE(hoverInfo(preview), QString("<H1>%1 of 4</H1>").arg(index + 1));
+    // Named with the size of the photo, and the result with that of the live run's result.
+    const char* const names[] = {"large.png · 1200 × 900", "tall.png · 300 × 2000",
+                                 "turned.jpg · 200 × 400", "broken.jpg"};
+    const char* const resultNames[] = {"Preview · 360 × 270", "Preview · 300 × 2000",
+                                       "Preview · 200 × 400", ""};
+    QCOMPARE(area()->caption(), QString(names[index]));
+    QCOMPARE(preview->caption(), QString(resultNames[index]));
+}
+
+void TestMainPage::editingTheList_data()
+{
+    QTest::addColumn<QStringList>("start");
+    QTest::addColumn<int>("current");
+    QTest::addColumn<QString>("edit"); // photos added, a key pressed, or an action's text
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<int>("index");
+
+    const QStringList three{"large.png", "tall.png", "turned.jpg"};
+    const QStringList one{"tall.png"};
+    // Added photos join the end and leave the current one as it is.
+    addRow("files append", three, 1, QString("add broken.jpg large.png"),
+           three + QStringList{"broken.jpg", "large.png"}, 1);
+    addRow("added to none, the first is current", QStringList{}, 0,
+           QString("add turned.jpg large.png"), QStringList{"turned.jpg", "large.png"}, 0);
+    // The photo after the removed one takes its place; after the last, the new last.
+    addRow("icon list's menu removes, the list follows", three, 0, QString("icons Remove Photo"),
+           QStringList{"tall.png", "turned.jpg"}, 0);
+    addRow("Delete removes the last", three, 2, QString("key Delete"),
+           QStringList{"large.png", "tall.png"}, 1);
+    addRow("removing the only photo empties", one, 0, QString("key Delete"), QStringList{}, 0);
+    addRow("icon list emptied, the drop area is back", one, 0, QString("icons Remove Photo"),
+           QStringList{}, 0);
+    addRow("clear", three, 2, QString("Clear Photos"), QStringList{}, 0);
+    addRow("Right steps", three, 2, QString("key Right"), three, 0);
+    addRow("Left steps", three, 0, QString("key Left"), three, 2);
+    addRow("a focused slider keeps its keys", three, 0, QString("slider Right"), three, 0);
+}
+
+void TestMainPage::editingTheList()
+{
+    QFETCH(QStringList, start);
+    QFETCH(int, current);
+    QFETCH(QString, edit);
+    QFETCH(QStringList, expected);
+    QFETCH(int, index);
+
+    showActive();
+    if (!start.isEmpty())
+        page->slotFilesDropped(photos(start));
+    for (int i = 0; i < current; ++i)
+        page->creator()->slotNext();
+    QStringList words = edit.split(' ');
+    const QString how = words.takeFirst();
+    const auto key = Qt::Key(QKeySequence::fromString(words.value(0))[0]);
+    CreatorIconsView* icons = page->creator()->iconsView();
+    if (how == "add") {
+        page->slotFilesAdded(photos(words));
+    } else if (how == "key") {
+        QTest::keyClick(page, key);
+    } else if (how == "slider") {
+        page->flowPanel()->slotAddWaterMarkNode();
+        auto* slider = page->nodesOptionsPanel()->findChild<QSlider*>();
+        slider->setFocus();
+        QTest::keyClick(slider, key);
+        QCOMPARE(slider->value(), 61);
+    } else {
+        if (how == "icons")
+            page->creator()->findChild<QPushButton*>("IconViewButton")->click();
+        for (QAction* action : how == "icons" ? icons->actions() : page->findChildren<QAction*>())
+            if (action->text().remove('&') == (how == "icons" ? words.join(' ') : edit))
+                action->trigger();
+    }
+
+    QCOMPARE(area()->photos(), photos(expected));
+    QCOMPARE(area()->currentIndex(), index);
+    QCOMPARE(CommonData::instance()->photoCount, expected.size());
+    QCOMPARE(icons->model()->rowCount(), expected.size());
+    QCOMPARE(icons->currentIndex().row(), expected.isEmpty() ? -1 : index);
+    // The current photo is loaded and named; without photos the page is as it was at first.
+    const QMap<QString, QString> names{{"large.png", "large.png · 1200 × 900"},
+                                       {"tall.png", "tall.png · 300 × 2000"},
+                                       {"turned.jpg", "turned.jpg · 200 × 400"}};
+    QCOMPARE(area()->caption(), names.value(expected.value(index)));
+    ImagePreview* preview = page->representor()->preview();
+    QCOMPARE(preview->picture().isNull() && preview->caption().isEmpty(), expected.isEmpty());
+    QCOMPARE(area()->text(), expected.isEmpty() ? "<H2>Drop the photos here</H2>" : "");
+    QCOMPARE(area()->findChild<QPushButton*>("PushButton")->isVisible(), expected.isEmpty());
+    QCOMPARE(area()->isVisible(), how != "icons" || expected.isEmpty());
+    QCOMPARE(page->photoCommands()->removePhoto()->isEnabled(), !expected.isEmpty());
+    QCOMPARE(page->photoCommands()->nextPhoto()->isEnabled(), expected.size() > 1);
+}
+
+void TestMainPage::addingByDialog_data()
+{
+    QTest::addColumn<QString>("command");    // Ctrl+O, or the folder's menu entry
+    QTest::addColumn<QString>("lastFolder"); // empty: none stored yet
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QStringList>("added"); // none: a warning says so
+
+    addRow("photos, at first from the pictures folder", QString("Ctrl+O"), QString(),
+           QString("tall.png"), QStringList{"tall.png"});
+    addRow("photos, then where the last ones came from", QString("Ctrl+O"), QString("album"),
+           QString("album/b.png"), QStringList{"album/b.png"});
+    addRow("a folder with its subfolders", QString("folder"), QString("album"), QString("album"),
+           QStringList{"album/a.JPG", "album/b.png", "album/Sub/c.png"});
+    addRow("a folder without photos", QString("folder"), QString(), QString("empty"),
+           QStringList{});
+}
+
+void TestMainPage::addingByDialog()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, lastFolder);
+    QFETCH(QString, chosen);
+    QFETCH(QStringList, added);
+
+    QSettings().remove("KeyLastPhotoFolder");
+    if (!lastFolder.isEmpty())
+        OrkTools::AppData::writeSetting("KeyLastPhotoFolder", dir.filePath(lastFolder));
+    showActive();
+    page->slotFilesDropped(photos({"large.png"}));
+    // Every dialog the command opens is answered as it comes up, the file dialog once: if it
+    // refuses the answer, it is cancelled.
+    QStringList answered;
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, this, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            answered << box->text();
+            box->accept();
+        } else if (auto* files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+            if (!answered.isEmpty())
+                return files->reject();
+            answered << files->directory().absolutePath() << files->nameFilters();
+            files->findChild<QLineEdit*>("fileNameEdit")->setText(dir.filePath(chosen));
+            static_cast<QDialog*>(files)->accept();
+        }
+    });
+    poll.start(10);
+    if (command == "folder")
+        page->photoCommands()->addFolder()->trigger();
+    else
+        QTest::keySequence(page, QKeySequence(command));
+    poll.stop();
+
+    QCOMPARE(area()->photos(), photos(QStringList{"large.png"} + added));
+    QCOMPARE(area()->currentIndex(), 0);
+    QCOMPARE(answered.value(0), lastFolder.isEmpty() ? QStandardPaths::writableLocation(
+                                                           QStandardPaths::PicturesLocation)
+                                                     : dir.filePath(lastFolder));
+    if (command != "folder")
+        QVERIFY2(answered.value(1).contains("*.png") && answered.value(1).contains("*.JPG") &&
+                     answered.value(2) == "All Files (*)",
+                 qPrintable(answered.join('|')));
+    if (added.isEmpty())
+        QCOMPARE(answered.last(),
+                 "There are no photos in the folder " + dir.filePath(chosen) + ".");
+    // The next dialog opens in the folder this one took photos from.
+    const QFileInfo taken(dir.filePath(chosen));
+    QCOMPARE(PhotoActions::startFolder(), taken.isDir() ? taken.filePath() : taken.path());
 }
 
 void TestMainPage::largeViewRunsFullSize()
@@ -326,11 +505,13 @@ void TestMainPage::largeViewRunsFullSize()
     const auto checkOpenView = [&] {
         QCOMPARE(viewer->image().size(), QSize(1200, 900));
         QCOMPARE(viewer->heading(), QString("<H1>1 of 2</H1>"));
+        QCOMPARE(viewer->caption(), QString("large.png · 1200 × 900"));
         QVERIFY(!viewer->isNavigationHidden());
         // Stepping in the large view runs the next photo at full size as well.
         emit viewer->next();
         QCOMPARE(viewer->image().size(), QSize(200, 400));
         QCOMPARE(viewer->heading(), QString("<H1>2 of 2</H1>"));
+        QCOMPARE(viewer->caption(), QString("turned.jpg · 200 × 400"));
         emit viewer->previous();
         QCOMPARE(viewer->image().size(), QSize(1200, 900));
         QTest::keyClick(viewer, Qt::Key_Escape);
@@ -348,9 +529,13 @@ void TestMainPage::largeViewRunsFullSize()
     poll.start(10);
     page->representor()->slotPreview();
     QVERIFY(checked);
-    // Closed, the flow runs on the reduced copy again.
+    // Closed, the small view keeps the full-size result, and its size is the result's; the next
+    // run is on the reduced copy again.
+    ImagePreview* preview = page->representor()->preview();
+    QCOMPARE(preview->caption(), QString("1200 × 900"));
     page->nodesOptionsPanel()->slotParametersChanged();
     QCOMPARE(results.last().at(0).value<QImage>().size(), QSize(360, 270));
+    QCOMPARE(preview->caption(), QString("Preview · 360 × 270"));
 }
 
 void TestMainPage::batchRunsActiveNodesOnThePhotos()

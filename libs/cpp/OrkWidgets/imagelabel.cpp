@@ -24,4 +24,9 @@ AnimatedLabel* ImageLabel::addAnimation(const QString& fileName, QSize size,
     return animated;
 }
 
+void ImageLabel::addOverlay(QLayout* overlay, Qt::Alignment alignment)
+{
+    static_cast<QGridLayout*>(layout())->addLayout(overlay, 0, 0, alignment);
+}
+
 } // namespace OrkWidgets

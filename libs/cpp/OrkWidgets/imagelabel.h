@@ -16,6 +16,8 @@ public:
 
     // A child of the given size playing fileName, placed inside the label by alignment.
     AnimatedLabel* addAnimation(const QString& fileName, QSize size, Qt::Alignment alignment);
+    // Widgets laid over the picture, placed inside the label by alignment.
+    void addOverlay(QLayout* overlay, Qt::Alignment alignment);
 };
 
 } // namespace OrkWidgets

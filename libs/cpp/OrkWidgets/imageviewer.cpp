@@ -31,6 +31,11 @@ ImageViewer::ImageViewer(QWidget* parent)
     headingLabel = new QLabel(this);
     headingLabel->setObjectName("ImageViewerHeading");
     headingLabel->setAlignment(Qt::AlignCenter);
+    captionLabel = new QLabel(this);
+    captionLabel->setObjectName("ImageViewerCaption");
+    captionLabel->setAlignment(Qt::AlignCenter);
+    captionLabel->setTextFormat(Qt::PlainText);
+    captionLabel->hide();
 
     zoomBar = new QWidget(this);
     zoomBar->setObjectName("ImageViewerBar");
@@ -61,6 +66,7 @@ ImageViewer::ImageViewer(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(headingLabel);
+    layout->addWidget(captionLabel);
     layout->addStretch(1);
     layout->addWidget(zoomBar);
 
@@ -113,6 +119,17 @@ void ImageViewer::setNavigationHidden(bool hidden)
     nextButton->setHidden(hidden);
 }
 
+void ImageViewer::setCaption(const QString& text)
+{
+    captionLabel->setText(text);
+    captionLabel->setHidden(text.isEmpty());
+}
+
+QString ImageViewer::caption() const
+{
+    return captionLabel->text();
+}
+
 QRectF ImageViewer::imageRect() const
 {
     return QRectF(origin, QSizeF(picture.size()) * scale());
@@ -120,7 +137,8 @@ QRectF ImageViewer::imageRect() const
 
 QRect ImageViewer::viewRect() const
 {
-    const int top = headingLabel->geometry().bottom() + 1;
+    const QLabel* above = captionLabel->isHidden() ? headingLabel : captionLabel;
+    const int top = above->geometry().bottom() + 1;
     const int bottom = zoomBar->geometry().top();
     return QRect(0, top, width(), std::max(0, bottom - top));
 }

@@ -28,6 +28,9 @@ public:
     // Rich text shown centred above the picture, such as "<H1>2 of 5</H1>".
     void setHeading(const QString& text);
     QString heading() const;
+    // Plain text below the heading, such as the photo's name; hidden while empty.
+    void setCaption(const QString& text);
+    QString caption() const;
 
     // Hides the step buttons and ignores the arrow keys, as for fewer than two photos.
     void setNavigationHidden(bool hidden);
@@ -65,7 +68,8 @@ protected:
 
 private:
     QPushButton* makeButton(const char* objectName, const QString& text, const QString& toolTip);
-    // The part of the viewer between the heading and the zoom bar, where the picture lies.
+    // The part of the viewer between the heading (with its caption) and the zoom bar, where the
+    // picture lies.
     QRect viewRect() const;
     // Logical pixels per picture pixel.
     double scale() const;
@@ -92,6 +96,7 @@ private:
     QPoint lastDragPosition;
 
     QLabel* headingLabel = nullptr;
+    QLabel* captionLabel = nullptr;
     QPushButton* previousButton = nullptr;
     QPushButton* nextButton = nullptr;
     QPushButton* closeButton = nullptr;

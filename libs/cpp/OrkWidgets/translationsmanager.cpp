@@ -13,9 +13,33 @@ namespace OrkWidgets {
 TranslationsManager::TranslationsManager(QObject* parent)
     : QObject(parent)
 {
-    const QString stored =
-        OrkTools::AppData::readSetting("Language", QLocale::system().name()).toString();
-    setLanguage(languageForLocale(stored));
+    setLanguage(chosenLanguage());
+}
+
+QString TranslationsManager::chosenLanguage() const
+{
+    return languageForLocale(
+        OrkTools::AppData::readSetting("Language", QLocale::system().name()).toString());
+}
+
+void TranslationsManager::chooseForNextStart(const QString& language)
+{
+    OrkTools::AppData::writeSetting("Language", language);
+}
+
+QString TranslationsManager::programText(const QString& language, const char* context,
+                                         const char* source) const
+{
+    QTranslator translator;
+    if (language == QLatin1String("en") || !translator.load(programFile(language)))
+        return QString::fromUtf8(source);
+    const QString text = translator.translate(context, source);
+    return text.isEmpty() ? QString::fromUtf8(source) : text;
+}
+
+QString TranslationsManager::programFile(const QString& language) const
+{
+    return ":/" + prefix + "Translations/" + QCoreApplication::applicationName() + "_" + language;
 }
 
 QString TranslationsManager::languageForLocale(const QString& locale)
@@ -36,14 +60,12 @@ void TranslationsManager::setLanguage(const QString& language)
         qtTranslator = loadAndInstall(":/" + prefix + "Translations/qt_" + language);
         // The extra "/" after the prefix is how the libraries' files have always been addressed.
         libsTranslator = loadAndInstall(":/" + prefix + "/Translations/libs_" + language);
-        appTranslator = loadAndInstall(":/" + prefix + "Translations/" +
-                                       QCoreApplication::applicationName() + "_" + language);
+        appTranslator = loadAndInstall(programFile(language));
     }
     QGuiApplication::setLayoutDirection(language == QLatin1String("ar") ? Qt::RightToLeft
                                                                         : Qt::LeftToRight);
     current = language;
-    OrkTools::AppData::writeSetting("Language", language);
-    emit languageChanged(language);
+    chooseForNextStart(language);
 }
 
 int TranslationsManager::installedCount() const
