@@ -179,292 +179,291 @@ QPixmap operationsMenu(MainPage& page)
 {
     const auto* addButton = page.flowPanel()->findChild<QToolButton*>("PushButtonAdd");
     return withMenu(&page, page.flowPanel()->nodesMenu(), below(addButton, addButton->rect()));
+}
 
-    // As the result view does when it opens: a run at full size, then back to the preview.
-    QPixmap largeView(MainPage & page)
-    {
-        auto* large = page.representor()->findChild<ImageViewDialog*>();
-        large->resize(900, 560);
-        CommonData::instance()->previewMode = 0;
-        page.nodesOptionsPanel()->slotParametersChanged();
-        const QPixmap picture = grabWindow(large);
-        large->hide();
-        CommonData::instance()->previewMode = 1;
-        page.nodesOptionsPanel()->slotParametersChanged();
-        return picture;
+// As the result view does when it opens: a run at full size, then back to the preview.
+QPixmap largeView(MainPage& page)
+{
+    auto* large = page.representor()->findChild<ImageViewDialog*>();
+    large->resize(900, 560);
+    CommonData::instance()->previewMode = 0;
+    page.nodesOptionsPanel()->slotParametersChanged();
+    const QPixmap picture = grabWindow(large);
+    large->hide();
+    CommonData::instance()->previewMode = 1;
+    page.nodesOptionsPanel()->slotParametersChanged();
+    return picture;
+}
+
+// The page down to the photos with the menu bar's menu of that title open.
+QPixmap withMenuBarMenu(MainPage& page, const char* title)
+{
+    auto* bar = page.findChild<QMenuBar*>("MenuBar");
+    const QString text = QCoreApplication::translate("MainPage", title);
+    QAction* entry = nullptr;
+    const QList<QAction*> entries = bar->actions();
+    for (QAction* action : entries) {
+        if (action->text() == text)
+            entry = action;
     }
+    return rows(withMenu(&page, entry->menu(), below(bar, bar->actionGeometry(entry))), &page,
+                nullptr, page.creator());
+}
 
-    // The page down to the photos with the menu bar's menu of that title open.
-    QPixmap withMenuBarMenu(MainPage & page, const char* title)
-    {
-        auto* bar = page.findChild<QMenuBar*>("MenuBar");
-        const QString text = QCoreApplication::translate("MainPage", title);
-        QAction* entry = nullptr;
-        const QList<QAction*> entries = bar->actions();
-        for (QAction* action : entries) {
-            if (action->text() == text)
-                entry = action;
-        }
-        return rows(withMenu(&page, entry->menu(), below(bar, bar->actionGeometry(entry))), &page,
-                    nullptr, page.creator());
-    }
+struct Shot
+{
+    QPixmap picture;
+    // The caption of the slide; docs screenshots have none.
+    QString caption;
+};
 
-    struct Shot
-    {
-        QPixmap picture;
-        // The caption of the slide; docs screenshots have none.
-        QString caption;
+// One caption per slide, in the slide's language.
+const char* const captions[][3] = {
+    {"Drop your photos on this window, or click it to choose them.",
+     "Ziehen Sie Ihre Fotos auf dieses Fenster oder klicken Sie, um sie auszuwählen.",
+     "Перетащите фото в это окно или нажмите, чтобы выбрать их."},
+    {"On the left the original, on the right the result of the flow. The arrows step through "
+     "the photos.",
+     "Links das Original, rechts das Ergebnis des Ablaufs. Mit den Pfeilen blättern Sie durch "
+     "die Fotos.",
+     "Слева оригинал, справа результат сценария. Стрелками можно листать фото."},
+    {"A click on \"+\" adds a watermark; its arrow, or a right click, offers every step: "
+     "resize, crop, frame and more. Edit > Undo (Ctrl+Z) takes any change back.",
+     "Ein Klick auf „+“ fügt ein Wasserzeichen hinzu; sein Pfeil oder ein Rechtsklick bietet "
+     "jeden Schritt an: Größe, Zuschnitt, Rahmen und mehr. Bearbeiten > Rückgängig (Strg+Z) "
+     "nimmt jede Änderung zurück.",
+     "Щелчок по «+» добавляет водяной знак; его стрелка или правый щелчок предлагают любой "
+     "шаг: "
+     "размер, обрезку, рамку и другое. Правка > Отменить действие (Ctrl+Z) возвращает любое "
+     "изменение."},
+    {"The watermark: a text or a logo, with font, colours, size, transparency and position.",
+     "Das Wasserzeichen: ein Text oder ein Logo, mit Schrift, Farben, Größe, Transparenz und "
+     "Position.",
+     "Водяной знак: текст или логотип, шрифт, цвета, размер, прозрачность и положение."},
+    {"Every step has its own options. Untick its title to switch it off; drag the tabs to "
+     "change the order.",
+     "Jeder Schritt hat eigene Optionen. Das Häkchen am Titel schaltet ihn ab; die Reihenfolge "
+     "ändern Sie durch Ziehen der Reiter.",
+     "У каждого шага свои параметры. Снимите флажок заголовка, чтобы отключить шаг; порядок "
+     "меняется перетаскиванием вкладок."},
+    {"The Flows menu keeps your flows: load one with a click, or clear, save and delete them.",
+     "Das Menü „Abläufe“ verwahrt Ihre Abläufe: ein Klick lädt einen, außerdem leeren, "
+     "speichern und löschen.",
+     "Меню «Сценарии» хранит ваши сценарии: загрузка одним щелчком, очистка, сохранение и "
+     "удаление."},
+    {"Save the flow under a name to use it again on the next photos.",
+     "Speichern Sie den Ablauf unter einem Namen, um ihn für die nächsten Fotos zu verwenden.",
+     "Сохраните сценарий под именем, чтобы применить его к следующим фото."},
+    {"Click the result to see it in full size; zoom with + and -, 1:1 shows the actual pixels.",
+     "Ein Klick auf das Ergebnis zeigt es in voller Größe; + und - zoomen, 1:1 zeigt die "
+     "echten Pixel.",
+     "Щелчок по результату показывает его в полном размере; + и - масштабируют, 1:1 — "
+     "реальные пиксели."},
+    {"The output settings: format, JPEG quality, renaming and the folder opened at the end.",
+     "Die Ausgabeeinstellungen: Format, JPEG-Qualität, Umbenennen und der Ordner zum Schluss.",
+     "Параметры вывода: формат, качество JPEG, переименование и папка по завершении."},
+    {"\"Save Results\" runs the flow over all photos into a new folder; pause or stop it at "
+     "any time.",
+     "„Ergebnisse speichern“ wendet den Ablauf auf alle Fotos an und schreibt in einen neuen "
+     "Ordner; Pause und Stopp jederzeit.",
+     "«Сохранить результаты» применяет сценарий ко всем фото и пишет их в новую папку; пауза "
+     "и стоп в любой момент."},
+    {"Choose the language and find this tour again in the menu bar.",
+     "Sprache wählen und diese Einführung wiederfinden: in der Menüleiste.",
+     "Язык и эта экскурсия — в строке меню."},
+};
+
+QList<Shot> helpShots(const QList<QUrl>& photos, int languageIndex)
+{
+    QList<Shot> shots;
+    const auto add = [&shots, languageIndex](const QPixmap& picture) {
+        shots << Shot{picture, QString::fromUtf8(captions[shots.size()][languageIndex])};
     };
 
-    // One caption per slide, in the slide's language.
-    const char* const captions[][3] = {
-        {"Drop your photos on this window, or click it to choose them.",
-         "Ziehen Sie Ihre Fotos auf dieses Fenster oder klicken Sie, um sie auszuwählen.",
-         "Перетащите фото в это окно или нажмите, чтобы выбрать их."},
-        {"On the left the original, on the right the result of the flow. The arrows step through "
-         "the photos.",
-         "Links das Original, rechts das Ergebnis des Ablaufs. Mit den Pfeilen blättern Sie durch "
-         "die Fotos.",
-         "Слева оригинал, справа результат сценария. Стрелками можно листать фото."},
-        {"A click on \"+\" adds a watermark; its arrow, or a right click, offers every step: "
-         "resize, crop, frame and more. Edit > Undo (Ctrl+Z) takes any change back.",
-         "Ein Klick auf „+“ fügt ein Wasserzeichen hinzu; sein Pfeil oder ein Rechtsklick bietet "
-         "jeden Schritt an: Größe, Zuschnitt, Rahmen und mehr. Bearbeiten > Rückgängig (Strg+Z) "
-         "nimmt jede Änderung zurück.",
-         "Щелчок по «+» добавляет водяной знак; его стрелка или правый щелчок предлагают любой "
-         "шаг: "
-         "размер, обрезку, рамку и другое. Правка > Отменить действие (Ctrl+Z) возвращает любое "
-         "изменение."},
-        {"The watermark: a text or a logo, with font, colours, size, transparency and position.",
-         "Das Wasserzeichen: ein Text oder ein Logo, mit Schrift, Farben, Größe, Transparenz und "
-         "Position.",
-         "Водяной знак: текст или логотип, шрифт, цвета, размер, прозрачность и положение."},
-        {"Every step has its own options. Untick its title to switch it off; drag the tabs to "
-         "change the order.",
-         "Jeder Schritt hat eigene Optionen. Das Häkchen am Titel schaltet ihn ab; die Reihenfolge "
-         "ändern Sie durch Ziehen der Reiter.",
-         "У каждого шага свои параметры. Снимите флажок заголовка, чтобы отключить шаг; порядок "
-         "меняется перетаскиванием вкладок."},
-        {"The Flows menu keeps your flows: load one with a click, or clear, save and delete them.",
-         "Das Menü „Abläufe“ verwahrt Ihre Abläufe: ein Klick lädt einen, außerdem leeren, "
-         "speichern und löschen.",
-         "Меню «Сценарии» хранит ваши сценарии: загрузка одним щелчком, очистка, сохранение и "
-         "удаление."},
-        {"Save the flow under a name to use it again on the next photos.",
-         "Speichern Sie den Ablauf unter einem Namen, um ihn für die nächsten Fotos zu verwenden.",
-         "Сохраните сценарий под именем, чтобы применить его к следующим фото."},
-        {"Click the result to see it in full size; zoom with + and -, 1:1 shows the actual pixels.",
-         "Ein Klick auf das Ergebnis zeigt es in voller Größe; + und - zoomen, 1:1 zeigt die "
-         "echten Pixel.",
-         "Щелчок по результату показывает его в полном размере; + и - масштабируют, 1:1 — "
-         "реальные пиксели."},
-        {"The output settings: format, JPEG quality, renaming and the folder opened at the end.",
-         "Die Ausgabeeinstellungen: Format, JPEG-Qualität, Umbenennen und der Ordner zum Schluss.",
-         "Параметры вывода: формат, качество JPEG, переименование и папка по завершении."},
-        {"\"Save Results\" runs the flow over all photos into a new folder; pause or stop it at "
-         "any time.",
-         "„Ergebnisse speichern“ wendet den Ablauf auf alle Fotos an und schreibt in einen neuen "
-         "Ordner; Pause und Stopp jederzeit.",
-         "«Сохранить результаты» применяет сценарий ко всем фото и пишет их в новую папку; пауза "
-         "и стоп в любой момент."},
-        {"Choose the language and find this tour again in the menu bar.",
-         "Sprache wählen und diese Einführung wiederfinden: in der Menüleiste.",
-         "Язык и эта экскурсия — в строке меню."},
-    };
+    OrkWidgets::DropWidget drop;
+    drop.resize(400, 400);
+    add(grabWindow(&drop));
 
-    QList<Shot> helpShots(const QList<QUrl>& photos, int languageIndex)
-    {
-        QList<Shot> shots;
-        const auto add = [&shots, languageIndex](const QPixmap& picture) {
-            shots << Shot{picture, QString::fromUtf8(captions[shots.size()][languageIndex])};
-        };
+    Session session(photos, {"Watermark", "Resize", "Vignetting", "Frame"});
+    MainPage& page = session.page;
+    QWidget* options = page.nodesOptionsPanel();
+    QWidget* photoSide = page.creator();
+    session.selectNode(0);
+    add(rows(page.grab(), &page, nullptr, photoSide));
 
-        OrkWidgets::DropWidget drop;
-        drop.resize(400, 400);
-        add(grabWindow(&drop));
+    add(rows(operationsMenu(page), &page, options, nullptr));
 
-        Session session(photos, {"Watermark", "Resize", "Vignetting", "Frame"});
-        MainPage& page = session.page;
-        QWidget* options = page.nodesOptionsPanel();
-        QWidget* photoSide = page.creator();
-        session.selectNode(0);
-        add(rows(page.grab(), &page, nullptr, photoSide));
+    add(rows(page.grab(), &page, options, nullptr));
 
-        add(rows(operationsMenu(page), &page, options, nullptr));
+    session.selectNode(2);
+    add(rows(page.grab(), &page, options, nullptr));
 
-        add(rows(page.grab(), &page, options, nullptr));
+    QPushButton* flows = nullptr;
+    const QList<QPushButton*> buttons = page.flowPanel()->findChildren<QPushButton*>();
+    for (QPushButton* button : buttons) {
+        if (button->menu())
+            flows = button;
+    }
+    add(rows(withMenu(&page, flows->menu(), below(flows, flows->rect())), &page, options, nullptr));
 
-        session.selectNode(2);
-        add(rows(page.grab(), &page, options, nullptr));
+    session.selectNode(0);
+    const QPixmap lower = rows(page.grab(), &page, options, nullptr);
+    QInputDialog save(&page);
+    save.setWindowTitle(QCoreApplication::translate("FlowPanel", "Save Flow"));
+    save.setLabelText(QCoreApplication::translate("FlowPanel", "Flow's Name:"));
+    save.setTextValue("Web gallery");
+    add(overWindow(lower, grabWindow(&save)));
+    save.hide();
 
-        QPushButton* flows = nullptr;
-        const QList<QPushButton*> buttons = page.flowPanel()->findChildren<QPushButton*>();
-        for (QPushButton* button : buttons) {
-            if (button->menu())
-                flows = button;
+    add(largeView(page));
+
+    AppSettingsDialog settings(&page);
+    add(overWindow(lower, grabWindow(&settings)));
+    settings.hide();
+
+    auto* batch = page.representor()->findChild<BatchDialog*>();
+    batch->show();
+    batch->slotUpdateInfo(QImage(photos.at(1).toLocalFile()).scaledToWidth(600), 1, 3);
+    add(grabWindow(batch));
+    batch->hide();
+
+    add(withMenuBarMenu(page, "&Language"));
+    return shots;
+}
+
+// A 1000 x 700 slide: the shot fitted (never enlarged) above a caption band.
+QImage slide(const Shot& shot, int number)
+{
+    const QSize size(1000, 700);
+    const int band = 110;
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(QColor(40, 40, 40));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QRect area(24, 20, size.width() - 48, size.height() - band - 36);
+    QSize fitted = shot.picture.size();
+    if (fitted.width() > area.width() || fitted.height() > area.height())
+        fitted.scale(area.size(), Qt::KeepAspectRatio);
+    QRect target(QPoint(0, 0), fitted);
+    target.moveCenter(area.center());
+    painter.fillRect(target.translated(6, 6), QColor(0, 0, 0, 120));
+    painter.drawPixmap(target, shot.picture);
+    painter.setPen(QPen(QColor(110, 110, 110), 1));
+    painter.drawRect(target.adjusted(0, 0, -1, -1));
+
+    const QRect caption(0, size.height() - band, size.width(), band);
+    painter.fillRect(caption, QColor(71, 71, 71));
+    painter.fillRect(caption.x(), caption.y(), caption.width(), 3, accent);
+    const QRect badge(24, caption.center().y() - 24, 48, 48);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(accent);
+    painter.drawEllipse(badge);
+    QFont font("DejaVu Sans");
+    font.setPixelSize(24);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(badge, Qt::AlignCenter, QString::number(number));
+    font.setPixelSize(20);
+    font.setBold(false);
+    painter.setFont(font);
+    painter.drawText(caption.adjusted(96, 8, -24, -8), Qt::AlignVCenter | Qt::TextWordWrap,
+                     shot.caption);
+    return image;
+}
+
+bool writeSlides(const QString& folder, const QList<QUrl>& photos)
+{
+    OrkWidgets::TranslationsManager* translations = OrkWidgets::App::instance()->translations();
+    for (int l = 0; l < languages.size(); ++l) {
+        translations->setLanguage(languages.at(l));
+        const QList<Shot> shots = helpShots(photos, l);
+        QDir().mkpath(folder + "/" + languages.at(l));
+        for (int i = 0; i < shots.size(); ++i) {
+            const QString path =
+                QString("%1/%2/slide%3.png").arg(folder, languages.at(l)).arg(i + 1);
+            if (!slide(shots.at(i), i + 1).save(path))
+                return false;
         }
-        add(rows(withMenu(&page, flows->menu(), below(flows, flows->rect())), &page, options,
-                 nullptr));
-
-        session.selectNode(0);
-        const QPixmap lower = rows(page.grab(), &page, options, nullptr);
-        QInputDialog save(&page);
-        save.setWindowTitle(QCoreApplication::translate("FlowPanel", "Save Flow"));
-        save.setLabelText(QCoreApplication::translate("FlowPanel", "Flow's Name:"));
-        save.setTextValue("Web gallery");
-        add(overWindow(lower, grabWindow(&save)));
-        save.hide();
-
-        add(largeView(page));
-
-        AppSettingsDialog settings(&page);
-        add(overWindow(lower, grabWindow(&settings)));
-        settings.hide();
-
-        auto* batch = page.representor()->findChild<BatchDialog*>();
-        batch->show();
-        batch->slotUpdateInfo(QImage(photos.at(1).toLocalFile()).scaledToWidth(600), 1, 3);
-        add(grabWindow(batch));
-        batch->hide();
-
-        add(withMenuBarMenu(page, "&Language"));
-        return shots;
     }
+    return true;
+}
 
-    // A 1000 x 700 slide: the shot fitted (never enlarged) above a caption band.
-    QImage slide(const Shot& shot, int number)
-    {
-        const QSize size(1000, 700);
-        const int band = 110;
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(QColor(40, 40, 40));
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        const QRect area(24, 20, size.width() - 48, size.height() - band - 36);
-        QSize fitted = shot.picture.size();
-        if (fitted.width() > area.width() || fitted.height() > area.height())
-            fitted.scale(area.size(), Qt::KeepAspectRatio);
-        QRect target(QPoint(0, 0), fitted);
-        target.moveCenter(area.center());
-        painter.fillRect(target.translated(6, 6), QColor(0, 0, 0, 120));
-        painter.drawPixmap(target, shot.picture);
-        painter.setPen(QPen(QColor(110, 110, 110), 1));
-        painter.drawRect(target.adjusted(0, 0, -1, -1));
+// A flow panel wide enough to show a tab of every kind of node at once, each with its preview.
+QPixmap wideFlowPanel(const QUrl& photo)
+{
+    NodesOptionsPanel options;
+    FlowPanel flow(&options);
+    QObject::connect(&flow, &FlowPanel::flowChanged, &options, &NodesOptionsPanel::slotFlowChanged);
+    const QList<QAction*> actions = flow.nodesMenu()->actions();
+    for (QAction* action : actions)
+        action->trigger();
+    options.setImage(QImage(photo.toLocalFile()));
+    flow.findChild<NodesTabBar*>()->setCurrentIndex(0);
+    flow.resize(1500, 170);
+    return grabWindow(&flow);
+}
 
-        const QRect caption(0, size.height() - band, size.width(), band);
-        painter.fillRect(caption, QColor(71, 71, 71));
-        painter.fillRect(caption.x(), caption.y(), caption.width(), 3, accent);
-        const QRect badge(24, caption.center().y() - 24, 48, 48);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(accent);
-        painter.drawEllipse(badge);
-        QFont font("DejaVu Sans");
-        font.setPixelSize(24);
-        font.setBold(true);
-        painter.setFont(font);
-        painter.setPen(Qt::white);
-        painter.drawText(badge, Qt::AlignCenter, QString::number(number));
-        font.setPixelSize(20);
-        font.setBold(false);
-        painter.setFont(font);
-        painter.drawText(caption.adjusted(96, 8, -24, -8), Qt::AlignVCenter | Qt::TextWordWrap,
-                         shot.caption);
-        return image;
-    }
-
-    bool writeSlides(const QString& folder, const QList<QUrl>& photos)
-    {
-        OrkWidgets::TranslationsManager* translations = OrkWidgets::App::instance()->translations();
-        for (int l = 0; l < languages.size(); ++l) {
-            translations->setLanguage(languages.at(l));
-            const QList<Shot> shots = helpShots(photos, l);
-            QDir().mkpath(folder + "/" + languages.at(l));
-            for (int i = 0; i < shots.size(); ++i) {
-                const QString path =
-                    QString("%1/%2/slide%3.png").arg(folder, languages.at(l)).arg(i + 1);
-                if (!slide(shots.at(i), i + 1).save(path))
-                    return false;
-            }
-        }
-        return true;
-    }
-
-    // A flow panel wide enough to show a tab of every kind of node at once, each with its preview.
-    QPixmap wideFlowPanel(const QUrl& photo)
-    {
-        NodesOptionsPanel options;
-        FlowPanel flow(&options);
-        QObject::connect(&flow, &FlowPanel::flowChanged, &options,
-                         &NodesOptionsPanel::slotFlowChanged);
-        const QList<QAction*> actions = flow.nodesMenu()->actions();
-        for (QAction* action : actions)
-            action->trigger();
-        options.setImage(QImage(photo.toLocalFile()));
-        flow.findChild<NodesTabBar*>()->setCurrentIndex(0);
-        flow.resize(1500, 170);
-        return grabWindow(&flow);
-    }
-
-    // The documentation screenshots at actual size, in each language: the main window with photos,
-    // with its File menu open and without photos, the large view, a warning and the language
-    // notice, every kind of node in the flow panel, the watermark options and the two dialogs.
-    bool writeDocs(const QString& folder, const QList<QUrl>& photos)
-    {
-        OrkWidgets::TranslationsManager* translations = OrkWidgets::App::instance()->translations();
-        QDir().mkpath(folder);
-        for (const QString& language : languages) {
+// The documentation screenshots at actual size, in each language: the main window with photos,
+// with its File menu open and without photos, the large view, a warning and the language
+// notice, every kind of node in the flow panel, the watermark options and the two dialogs.
+bool writeDocs(const QString& folder, const QList<QUrl>& photos)
+{
+    OrkWidgets::TranslationsManager* translations = OrkWidgets::App::instance()->translations();
+    QDir().mkpath(folder);
+    for (const QString& language : languages) {
+        translations->setLanguage(language);
+        QList<QPair<QString, QPixmap>> shots;
+        {
+            Session sample(photos, {});
+            sample.page.flowPanel()->loadFlow(sampleFlowText());
+            sample.selectNode(0);
+            shots << qMakePair(QString("mainwindow"), sample.page.grab());
+            shots << qMakePair(QString("operations-menu"), operationsMenu(sample.page));
+            shots << qMakePair(QString("largeview"), largeView(sample.page));
+            shots << qMakePair(QString("filemenu"), withMenuBarMenu(sample.page, "&File"));
+            QMessageBox warning(
+                QMessageBox::Warning, "Warning",
+                QCoreApplication::translate("PhotoActions", "There are no photos in the folder %1.")
+                    .arg("/home/user/Pictures/Empty"),
+                QMessageBox::Ok, &sample.page);
+            shots << qMakePair(QString("messagebox"), grabWindow(&warning));
+            warning.hide();
+            sample.page.slotChooseLanguage(language == "ru" ? "de" : "ru");
+            auto* notice = sample.page.findChild<QMessageBox*>("LanguageNotice");
+            shots << qMakePair(QString("languagenotice"), grabWindow(notice));
+            notice->close();
             translations->setLanguage(language);
-            QList<QPair<QString, QPixmap>> shots;
-            {
-                Session sample(photos, {});
-                sample.page.flowPanel()->loadFlow(sampleFlowText());
-                sample.selectNode(0);
-                shots << qMakePair(QString("mainwindow"), sample.page.grab());
-                shots << qMakePair(QString("operations-menu"), operationsMenu(sample.page));
-                shots << qMakePair(QString("largeview"), largeView(sample.page));
-                shots << qMakePair(QString("filemenu"), withMenuBarMenu(sample.page, "&File"));
-                QMessageBox warning(QMessageBox::Warning, "Warning",
-                                    QCoreApplication::translate(
-                                        "PhotoActions", "There are no photos in the folder %1.")
-                                        .arg("/home/user/Pictures/Empty"),
-                                    QMessageBox::Ok, &sample.page);
-                shots << qMakePair(QString("messagebox"), grabWindow(&warning));
-                warning.hide();
-                sample.page.slotChooseLanguage(language == "ru" ? "de" : "ru");
-                auto* notice = sample.page.findChild<QMessageBox*>("LanguageNotice");
-                shots << qMakePair(QString("languagenotice"), grabWindow(notice));
-                notice->close();
-                translations->setLanguage(language);
-                shots << qMakePair(QString("watermark-options"),
-                                   sample.page.nodesOptionsPanel()->grab());
-                AppSettingsDialog settings(&sample.page);
-                shots << qMakePair(QString("settings-dialog"), grabWindow(&settings));
-                auto* batch = sample.page.representor()->findChild<BatchDialog*>();
-                batch->show();
-                batch->slotUpdateInfo(QImage(photos.at(0).toLocalFile()).scaledToWidth(600), 1, 3);
-                shots << qMakePair(QString("batch-dialog"), grabWindow(batch));
-                batch->hide();
-            }
-            {
-                MainPage empty;
-                shots << qMakePair(QString("mainwindow-empty"), grabWindow(&empty));
-            }
-            Session all(photos, factoryNodeNames());
-            all.selectNode(0);
-            shots << qMakePair(QString("flowpanel-all-nodes"), wideFlowPanel(photos.at(0)));
-            for (int i = 0; i < factoryNodeNames().size(); ++i) {
-                all.selectNode(i);
-                shots << qMakePair(QString("options-%1").arg(i + 1, 2, 10, QChar('0')),
-                                   all.page.nodesOptionsPanel()->grab());
-            }
-            for (const auto& shot : qAsConst(shots)) {
-                if (!shot.second.save(QString("%1/%2-%3.png").arg(folder, shot.first, language)))
-                    return false;
-            }
+            shots << qMakePair(QString("watermark-options"),
+                               sample.page.nodesOptionsPanel()->grab());
+            AppSettingsDialog settings(&sample.page);
+            shots << qMakePair(QString("settings-dialog"), grabWindow(&settings));
+            auto* batch = sample.page.representor()->findChild<BatchDialog*>();
+            batch->show();
+            batch->slotUpdateInfo(QImage(photos.at(0).toLocalFile()).scaledToWidth(600), 1, 3);
+            shots << qMakePair(QString("batch-dialog"), grabWindow(batch));
+            batch->hide();
         }
-        return true;
+        {
+            MainPage empty;
+            shots << qMakePair(QString("mainwindow-empty"), grabWindow(&empty));
+        }
+        Session all(photos, factoryNodeNames());
+        all.selectNode(0);
+        shots << qMakePair(QString("flowpanel-all-nodes"), wideFlowPanel(photos.at(0)));
+        for (int i = 0; i < factoryNodeNames().size(); ++i) {
+            all.selectNode(i);
+            shots << qMakePair(QString("options-%1").arg(i + 1, 2, 10, QChar('0')),
+                               all.page.nodesOptionsPanel()->grab());
+        }
+        for (const auto& shot : qAsConst(shots)) {
+            if (!shot.second.save(QString("%1/%2-%3.png").arg(folder, shot.first, language)))
+                return false;
+        }
     }
+    return true;
+}
 
 } // namespace
 
