@@ -3,8 +3,12 @@ BUILD_DIR ?= build
 BUILD_TYPE ?= Release
 JOBS ?= $(shell nproc)
 SANITIZE_DIR ?= build-sanitize
+FUZZ_DIR ?= build-fuzz
+FUZZ_SECONDS ?= 60
+# Extra libFuzzer flags, e.g. FUZZ_FLAGS=-jobs=1 for a run in a child process.
+FUZZ_FLAGS ?=
 
-.PHONY: all deps check-deps configure build run test test-sanitize bench install clean
+.PHONY: all deps check-deps configure build run test test-sanitize fuzz bench install clean
 
 all: build
 
@@ -44,6 +48,18 @@ test-sanitize: deps
 	status=$$?; \
 	if [ -n "$$(ls -A $(SANITIZE_REPORTS))" ]; then cat $(SANITIZE_REPORTS)/*; status=1; fi; \
 	exit $$status
+
+# Runs the flow fuzzer FUZZ_SECONDS long over the seeds in fuzz/corpus/flow; what it finds new
+# goes to $(FUZZ_DIR)/corpus, a crash to $(FUZZ_DIR)/artifacts, and the repo stays as it is.
+fuzz: deps
+	@CC=clang CXX=clang++ cmake -S . -B $(FUZZ_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+		-DPELODINE_FUZZ=ON -DBUILD_TESTING=OFF >/dev/null
+	@cmake --build $(FUZZ_DIR) -j $(JOBS) --target fuzz_flow
+	@mkdir -p $(FUZZ_DIR)/corpus $(FUZZ_DIR)/artifacts
+	cd $(FUZZ_DIR) && LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan-suppressions.txt \
+		./fuzz/fuzz_flow -max_total_time=$(FUZZ_SECONDS) \
+		-dict=$(CURDIR)/fuzz/flow.dict -artifact_prefix=artifacts/ $(FUZZ_FLAGS) \
+		corpus $(CURDIR)/fuzz/corpus/flow
 
 BENCHMARKS = bench_kernels bench_flow bench_preview bench_batch
 
