@@ -2,8 +2,13 @@
 BUILD_DIR ?= build
 BUILD_TYPE ?= Release
 JOBS ?= $(shell nproc)
+SANITIZE_DIR ?= build-sanitize
+FUZZ_DIR ?= build-fuzz
+FUZZ_SECONDS ?= 60
+# Extra libFuzzer flags, e.g. FUZZ_FLAGS=-jobs=1 for a run in a child process.
+FUZZ_FLAGS ?=
 
-.PHONY: all deps check-deps configure build run test bench install clean
+.PHONY: all deps check-deps configure build run test test-sanitize fuzz bench install clean
 
 all: build
 
@@ -25,6 +30,36 @@ run: build
 
 test: build
 	cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+
+# Any sanitizer report fails the run, also one from a program a test starts and whose status
+# it does not check: ASan and LSan write their reports to $(SANITIZE_DIR)/reports, UBSan stops the
+# program, and both exit with a status no test expects. Leaks are checked; only Qt's own are
+# suppressed (fast_unwind_on_malloc=0 gives the full allocation stacks the suppressions match).
+SANITIZE_REPORTS = $(abspath $(SANITIZE_DIR))/reports
+SANITIZE_ENV = ASAN_OPTIONS=exitcode=86:log_path=$(SANITIZE_REPORTS)/asan:detect_leaks=1:fast_unwind_on_malloc=0:detect_stack_use_after_return=1:strict_init_order=1:check_initialization_order=1 \
+	LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan-suppressions.txt:print_suppressions=0 \
+	UBSAN_OPTIONS=exitcode=86:halt_on_error=1:print_stacktrace=1
+
+test-sanitize: deps
+	@cmake -S . -B $(SANITIZE_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DPELODINE_SANITIZE=ON >/dev/null
+	@cmake --build $(SANITIZE_DIR) -j $(JOBS)
+	@rm -rf $(SANITIZE_REPORTS) && mkdir -p $(SANITIZE_REPORTS)
+	@cd $(SANITIZE_DIR) && QT_QPA_PLATFORM=offscreen $(SANITIZE_ENV) ctest --output-on-failure -j $(JOBS); \
+	status=$$?; \
+	if [ -n "$$(ls -A $(SANITIZE_REPORTS))" ]; then cat $(SANITIZE_REPORTS)/*; status=1; fi; \
+	exit $$status
+
+# Runs the flow fuzzer FUZZ_SECONDS long over the seeds in fuzz/corpus/flow; what it finds new
+# goes to $(FUZZ_DIR)/corpus, a crash to $(FUZZ_DIR)/artifacts, and the repo stays as it is.
+fuzz: deps
+	@CC=clang CXX=clang++ cmake -S . -B $(FUZZ_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+		-DPELODINE_FUZZ=ON -DBUILD_TESTING=OFF >/dev/null
+	@cmake --build $(FUZZ_DIR) -j $(JOBS) --target fuzz_flow
+	@mkdir -p $(FUZZ_DIR)/corpus $(FUZZ_DIR)/artifacts
+	cd $(FUZZ_DIR) && LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan-suppressions.txt \
+		./fuzz/fuzz_flow -max_total_time=$(FUZZ_SECONDS) \
+		-dict=$(CURDIR)/fuzz/flow.dict -artifact_prefix=artifacts/ $(FUZZ_FLAGS) \
+		corpus $(CURDIR)/fuzz/corpus/flow
 
 BENCHMARKS = bench_kernels bench_flow bench_preview bench_batch
 

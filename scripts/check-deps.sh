@@ -12,7 +12,7 @@ trap 'rm -rf "$build"' EXIT
 # Programs the build, the tests and the picture and slide tools call, by the name they are
 # called by; Qt's tools where the Qt build files point.
 programs=(cmake c++ make lrelease lupdate xvfb-run xauth Xvfb convert montage appstreamcli
-    desktop-file-validate update-mime-database fc-list)
+    desktop-file-validate update-mime-database fc-list clang clang++)
 qt_bin=/usr/lib/qt5/bin
 # Files loaded at run time: the fonts the tests draw with and the image format plugins.
 runtime_files=(/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf
@@ -41,6 +41,10 @@ for program in "${programs[@]}"; do
     fi
 done
 paths+=("${runtime_files[@]}")
+# The sanitizer runtimes the sanitizer build links (make test-sanitize) and libFuzzer, which clang
+# links into the fuzzer (make fuzz): each may come from a package of its own.
+paths+=("$(c++ -print-file-name=libasan.so)" "$(c++ -print-file-name=libubsan.so)"
+    "$(clang++ -print-resource-dir)/lib/linux/libclang_rt.fuzzer-x86_64.a")
 
 # The package that owns a path, through links and the /bin - /usr/bin merge.
 owner() {

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian 12 packages that building, testing, benchmarking and running Pelodine need.
+# Installs the Debian 12 packages that building, testing, fuzzing, benchmarking and running Pelodine
+# need (clang and its runtimes for make fuzz).
 # Quick when everything is there: only the missing packages go to apt-get.
 #   scripts/install-deps.sh          install what is missing
 #   scripts/install-deps.sh --list   print the list, one package a line (scripts/check-deps.sh)
@@ -12,6 +13,7 @@ packages=(
     fonts-dejavu-core
     xvfb xauth imagemagick
     appstream desktop-file-utils shared-mime-info
+    clang libclang-rt-14-dev
 )
 
 if [ "${1:-}" = --list ]; then
