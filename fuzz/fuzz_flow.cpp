@@ -71,11 +71,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<int>(size));
     QImage image = start;
     for (const auto& operation : batchOperationsFromFlow(flowText)) {
-        const QSize announced =
-            operationResultSize(operation.first, operation.second, image.size());
+        const PreparedOperation prepared = prepareOperation(operation.first, operation.second);
+        const QSize announced = prepared.resultSize(image.size());
         if (pixels(announced) > pixelBudget)
             break;
-        image = applyOperation(operation.first, image, operation.second);
+        image = prepared.apply(image);
         checkSize(operation.first, announced, image);
         if (image.isNull())
             break;
