@@ -118,6 +118,20 @@ void addOptions(QCommandLineParser& parser)
                                              "it either. Default: %1.")
              .arg(OutputSettings().maxMegapixels),
          "N"},
+        {"metadata",
+         QCoreApplication::translate("main", "What the results keep of the photos' EXIF, IPTC "
+                                             "and XMP: all of it, all but where the photo was "
+                                             "taken (GPS and location fields), or none. "
+                                             "Default: keep."),
+         "keep|strip-location|strip"},
+        {"artist",
+         QCoreApplication::translate("main", "Write TEXT as the artist into every result's "
+                                             "EXIF, IPTC and XMP."),
+         "TEXT"},
+        {"copyright",
+         QCoreApplication::translate("main", "Write TEXT as the copyright into every result's "
+                                             "EXIF, IPTC and XMP."),
+         "TEXT"},
         {"lenient",
          QCoreApplication::translate("main", "Run a flow that holds something that cannot be "
                                              "taken (an unknown operation, a logo that does not "
@@ -197,6 +211,17 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
             return QCoreApplication::translate("main", "the megapixels must be a whole number "
                                                        "of at least 1");
     }
+    if (parser.isSet("metadata")) {
+        settings.metadata =
+            QStringList{"keep", "strip-location", "strip"}.indexOf(parser.value("metadata"));
+        if (settings.metadata < 0)
+            return QCoreApplication::translate("main", "the metadata must be keep, "
+                                                       "strip-location or strip");
+    }
+    if (parser.isSet("artist"))
+        settings.artist = parser.value("artist");
+    if (parser.isSet("copyright"))
+        settings.copyright = parser.value("copyright");
     job.overwrite = parser.isSet("overwrite");
     job.lenient = parser.isSet("lenient");
     return {};

@@ -48,6 +48,17 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     maxMegapixelsBox->setSuffix(tr(" megapixels"));
     auto* limitsForm = new QFormLayout;
     limitsForm->addRow(tr("Largest photo:"), maxMegapixelsBox);
+
+    // In the order of PhotoMetadata::Choice.
+    metadataCombo = new QComboBox;
+    metadataCombo->addItems({tr("Keep all"), tr("Remove location"), tr("Remove all")});
+    artistEdit = new QLineEdit;
+    copyrightEdit = new QLineEdit;
+    auto* metadataBox = new QGroupBox(tr("Metadata"));
+    auto* metadataForm = new QFormLayout(metadataBox);
+    metadataForm->addRow(metadataCombo);
+    metadataForm->addRow(tr("Artist:"), artistEdit);
+    metadataForm->addRow(tr("Copyright:"), copyrightEdit);
     auto* okButton = new QPushButton(tr("Ok"));
     okButton->setObjectName("PushButton");
     auto* cancelButton = new QPushButton(tr("Cancel"));
@@ -62,6 +73,7 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     layout->addWidget(formatBox);
     layout->addWidget(renameBox);
     layout->addLayout(limitsForm);
+    layout->addWidget(metadataBox);
     layout->addLayout(buttons);
 
     connect(okButton, &QPushButton::clicked, this, &AppSettingsDialog::slotSaveSettings);
@@ -81,6 +93,9 @@ void AppSettingsDialog::slotSaveSettings()
     settings.format = formatCombo->currentText();
     settings.numbers = numbersCombo->currentIndex();
     settings.maxMegapixels = maxMegapixelsBox->value();
+    settings.metadata = metadataCombo->currentIndex();
+    settings.artist = artistEdit->text();
+    settings.copyright = copyrightEdit->text();
     settings.save();
     accept();
 }
@@ -95,6 +110,9 @@ void AppSettingsDialog::slotLoadSettings()
     formatCombo->setCurrentText(settings.format);
     numbersCombo->setCurrentIndex(settings.numbers);
     maxMegapixelsBox->setValue(settings.maxMegapixels);
+    metadataCombo->setCurrentIndex(settings.metadata);
+    artistEdit->setText(settings.artist);
+    copyrightEdit->setText(settings.copyright);
     slotFormatChanged();
 }
 

@@ -1,4 +1,5 @@
-// The output settings: format and JPEG quality, renaming and numbering, opening the folder.
+// The output settings: format and JPEG quality, renaming and numbering, opening the folder,
+// the largest photo and the metadata the results keep.
 #pragma once
 
 #include <QDialog>
@@ -34,4 +35,7 @@ private:
     QLineEdit* newNameEdit = nullptr;
     QComboBox* numbersCombo = nullptr;
     QSpinBox* maxMegapixelsBox = nullptr;
+    QComboBox* metadataCombo = nullptr;
+    QLineEdit* artistEdit = nullptr;
+    QLineEdit* copyrightEdit = nullptr;
 };

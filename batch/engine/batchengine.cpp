@@ -4,6 +4,7 @@
 #include "outputnaming.h"
 #include "threadmessages.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QImageWriter>
@@ -42,6 +43,17 @@ QString writeError(const QFileDevice& file)
     if (file.error() == QFileDevice::PermissionsError || reason == qt_error_string(EACCES))
         return BatchEngine::tr("cannot write: permission denied");
     return BatchEngine::tr("cannot write: %1").arg(reason);
+}
+
+// A short write (the disk filling up) sets no error; writing the rest gives the reason.
+bool writeAll(QFileDevice& file, const QByteArray& bytes)
+{
+    for (qint64 done = 0, wrote = 0; done < bytes.size(); done += wrote) {
+        wrote = file.write(bytes.constData() + done, bytes.size() - done);
+        if (wrote <= 0)
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -88,7 +100,7 @@ BatchEngine::Result BatchEngine::step(int index)
     QString target = destination + name + extension;
     for (int copy = 2; options.keepEveryResult && writtenPaths.contains(target); ++copy)
         target = destination + name + QString(" (%1)").arg(copy) + extension;
-    const WriteResult written = write(photo.image, target);
+    const WriteResult written = write(photo.image, target, photo.metadata);
     return {std::move(photo.image), target, written.error};
 }
 
@@ -108,10 +120,13 @@ BatchEngine::Photo BatchEngine::process(int index)
                     : QFuture<Photo>();
     if (photo.image.isNull())
         return photo;
-    return apply(std::move(photo.image), operations, options.pixelBudget);
+    Photo result = apply(std::move(photo.image), operations, options.pixelBudget);
+    result.metadata = photo.metadata;
+    return result;
 }
 
-BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& path)
+BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& path,
+                                            const PhotoMetadata& metadata)
 {
     const QStringList forms = pathForms(path);
     for (const QString& form : forms) {
@@ -132,11 +147,21 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return {false, writeError(file)};
-    QImageWriter writer(&file, settings.format.toLatin1());
+    // Encoded in memory first: the metadata goes into the bytes before any reach the file.
+    QByteArray encoded;
+    QBuffer buffer(&encoded);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, settings.format.toLatin1());
     writer.setQuality(settings.writerQuality());
-    if (!writer.write(image) && file.error() == QFileDevice::NoError) {
+    if (!writer.write(image)) {
         file.cancelWriting();
         return {false, tr("cannot write: %1").arg(writer.errorString())};
+    }
+    buffer.close();
+    if (!writeAll(file, metadata.embedInto(encoded, image.size(), settings))) {
+        const WriteResult failed{false, writeError(file)};
+        file.cancelWriting();
+        return failed;
     }
     // A failed write (a full disk) gives its reason at commit, which then leaves no file.
     if (!file.commit())
@@ -175,7 +200,7 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
         return {{}, tr("unreadable: not a photo this program can read")};
     if (qint64(image.width()) * image.height() > pixelBudget)
         return {{}, tooLarge(image.size())};
-    return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}};
+    return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}, PhotoMetadata::read(path)};
 }
 
 QString BatchEngine::createRunFolder(const QString& base, const QDateTime& start, bool exclusive)

@@ -5,6 +5,7 @@
 #include "batchoperations.h"
 #include "operationcatalogue.h"
 #include "outputsettings.h"
+#include "photometadata.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -26,6 +27,7 @@ public:
     {
         QImage image;
         QString error;
+        PhotoMetadata metadata = {};
     };
 
     // The outcome of one write; error is empty when the file was written.
@@ -84,9 +86,11 @@ public:
     // Writes through a temporary file, so a failed write leaves no half-written file behind.
     // Refused: a source photo, a link (nothing is written through one), anything but a
     // regular file, and a file this run did not write unless the options allow replacing it.
-    WriteResult write(const QImage& image, const QString& path);
-    // The photo with its EXIF orientation applied, in 32-bit ARGB. Only a regular file is
-    // read; its size is read from its header first and a photo above pixelBudget is refused
+    // The metadata goes in as the settings choose; a file that cannot take it is written
+    // without it.
+    WriteResult write(const QImage& image, const QString& path, const PhotoMetadata& metadata = {});
+    // The photo with its EXIF orientation applied, in 32-bit ARGB, and its metadata. Only a regular
+    // file is read; its size is read from its header first and a photo above pixelBudget is refused
     // undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged and
     // not taken, whatever it decoded. SVG drawings are not photos: they may read local files.
     static Photo load(const QString& path, qint64 pixelBudget);

@@ -11,6 +11,9 @@ const char keyRename[] = "KeyRename";
 const char keyNewName[] = "KeyNewName";
 const char keyNumbers[] = "KeyNumbers";
 const char keyMaxMegapixels[] = "KeyMaxMegapixels";
+const char keyMetadata[] = "KeyMetadata";
+const char keyArtist[] = "KeyArtist";
+const char keyCopyright[] = "KeyCopyright";
 
 // A stored number, or the default when the stored text is not one.
 int readInt(const char* key, int defaultValue)
@@ -35,6 +38,11 @@ OutputSettings OutputSettings::load()
     settings.numbers = readInt(keyNumbers, defaults.numbers);
     const int maxMegapixels = readInt(keyMaxMegapixels, defaults.maxMegapixels);
     settings.maxMegapixels = maxMegapixels > 0 ? maxMegapixels : defaults.maxMegapixels;
+    const int metadata = readInt(keyMetadata, defaults.metadata);
+    settings.metadata = metadata >= 0 && metadata <= 2 ? metadata : defaults.metadata;
+    settings.artist = OrkTools::AppData::readSetting(keyArtist, defaults.artist).toString();
+    settings.copyright =
+        OrkTools::AppData::readSetting(keyCopyright, defaults.copyright).toString();
     return settings;
 }
 
@@ -47,6 +55,9 @@ void OutputSettings::save() const
     OrkTools::AppData::writeSetting(keyFormat, format);
     OrkTools::AppData::writeSetting(keyNumbers, numbers);
     OrkTools::AppData::writeSetting(keyMaxMegapixels, maxMegapixels);
+    OrkTools::AppData::writeSetting(keyMetadata, metadata);
+    OrkTools::AppData::writeSetting(keyArtist, artist);
+    OrkTools::AppData::writeSetting(keyCopyright, copyright);
 }
 
 QStringList OutputSettings::formats()

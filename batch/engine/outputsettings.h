@@ -13,6 +13,9 @@ struct OutputSettings
     QString newName = "NewName"; // "KeyNewName": prefix of the new names
     int numbers = 0;             // "KeyNumbers": 0 all, 1 odd, 2 even
     int maxMegapixels = 100;     // "KeyMaxMegapixels": the largest photo a run decodes
+    int metadata = 0;            // "KeyMetadata": a PhotoMetadata::Choice, 0 keeps it all
+    QString artist;              // "KeyArtist": written into the results' metadata when set
+    QString copyright;           // "KeyCopyright": likewise
 
     // The stored values; a key that is missing or unreadable gives the default above.
     static OutputSettings load();

@@ -69,6 +69,36 @@
         <translation>Größtes Foto:</translation>
     </message>
     <message>
+        <location line="+4"/>
+        <source>Keep all</source>
+        <translation>Alle behalten</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Remove location</source>
+        <translation>Aufnahmeort entfernen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Remove all</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Artist:</source>
+        <translation>Urheber:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright:</source>
+        <translation>Copyright:</translation>
+    </message>
+    <message>
         <location line="+1"/>
         <source>Ok</source>
         <translation>OK</translation>
@@ -159,23 +189,23 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+98"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+110"/>
         <source>no photo at position %1</source>
         <translation>kein Foto an Position %1</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+24"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-75"/>
-        <location line="+95"/>
+        <location line="-89"/>
+        <location line="+113"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
     <message>
-        <location line="-106"/>
+        <location line="-124"/>
         <source>too large: %1 x %2</source>
         <translation>zu groß: %1 x %2</translation>
     </message>
@@ -190,12 +220,12 @@
         <translation>Schreiben nicht möglich: keine Berechtigung</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+55"/>
         <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
         <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+42"/>
         <source>cannot write: %1 is a link</source>
         <translation>Schreiben nicht möglich: %1 ist eine Verknüpfung</translation>
     </message>
@@ -210,7 +240,7 @@
         <translation>Schreiben nicht möglich: %1 existiert bereits</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+35"/>
         <source>unreadable: not a regular file</source>
         <translation>nicht lesbar: keine normale Datei</translation>
     </message>
@@ -1180,6 +1210,21 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
     </message>
     <message>
         <location line="+6"/>
+        <source>What the results keep of the photos&apos; EXIF, IPTC and XMP: all of it, all but where the photo was taken (GPS and location fields), or none. Default: keep.</source>
+        <translation>Was die Ergebnisse von EXIF, IPTC und XMP der Fotos behalten: alles, alles außer dem Aufnahmeort (GPS- und Ortsfelder) oder nichts. Vorgabe: keep.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Write TEXT as the artist into every result&apos;s EXIF, IPTC and XMP.</source>
+        <translation>TEXT als Urheber in EXIF, IPTC und XMP jedes Ergebnisses schreiben.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Write TEXT as the copyright into every result&apos;s EXIF, IPTC and XMP.</source>
+        <translation>TEXT als Copyright in EXIF, IPTC und XMP jedes Ergebnisses schreiben.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
         <source>Run a flow that holds something that cannot be taken (an unknown operation, a logo that does not decode) without it, instead of stopping.</source>
         <translation>Einen Ablauf, der etwas enthält, das nicht übernommen werden kann (eine unbekannte Operation, ein Logo, das sich nicht dekodieren lässt), ohne dieses ausführen, statt anzuhalten.</translation>
     </message>
@@ -1239,7 +1284,12 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>die Megapixel müssen eine ganze Zahl von mindestens 1 sein</translation>
     </message>
     <message>
-        <location line="+50"/>
+        <location line="+7"/>
+        <source>the metadata must be keep, strip-location or strip</source>
+        <translation>die Metadaten müssen keep, strip-location oder strip sein</translation>
+    </message>
+    <message>
+        <location line="+54"/>
         <source>no photos given</source>
         <translation>keine Fotos angegeben</translation>
     </message>

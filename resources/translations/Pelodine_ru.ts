@@ -69,6 +69,36 @@
         <translation>Наибольшая фотография:</translation>
     </message>
     <message>
+        <location line="+4"/>
+        <source>Keep all</source>
+        <translation>Сохранить все</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Remove location</source>
+        <translation>Удалить место съёмки</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Remove all</source>
+        <translation>Удалить все</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Metadata</source>
+        <translation>Метаданные</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Artist:</source>
+        <translation>Автор:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright:</source>
+        <translation>Авторское право:</translation>
+    </message>
+    <message>
         <location line="+1"/>
         <source>Ok</source>
         <translation>ОК</translation>
@@ -159,23 +189,23 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+98"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+110"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+24"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-75"/>
-        <location line="+95"/>
+        <location line="-89"/>
+        <location line="+113"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
     <message>
-        <location line="-106"/>
+        <location line="-124"/>
         <source>too large: %1 x %2</source>
         <translation>слишком большое: %1 x %2</translation>
     </message>
@@ -190,12 +220,12 @@
         <translation>запись невозможна: нет прав доступа</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+55"/>
         <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
         <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+42"/>
         <source>cannot write: %1 is a link</source>
         <translation>запись невозможна: %1 — ссылка</translation>
     </message>
@@ -210,7 +240,7 @@
         <translation>запись невозможна: %1 уже существует</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+35"/>
         <source>unreadable: not a regular file</source>
         <translation>не читается: не обычный файл</translation>
     </message>
@@ -1180,6 +1210,21 @@ A source photo is never written over; nothing is written through a link, outside
     </message>
     <message>
         <location line="+6"/>
+        <source>What the results keep of the photos&apos; EXIF, IPTC and XMP: all of it, all but where the photo was taken (GPS and location fields), or none. Default: keep.</source>
+        <translation>Что результаты сохраняют из EXIF, IPTC и XMP фотографий: всё, всё кроме места съёмки (GPS и поля местоположения) или ничего. По умолчанию: keep.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Write TEXT as the artist into every result&apos;s EXIF, IPTC and XMP.</source>
+        <translation>Записать TEXT как автора в EXIF, IPTC и XMP каждого результата.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Write TEXT as the copyright into every result&apos;s EXIF, IPTC and XMP.</source>
+        <translation>Записать TEXT как авторское право в EXIF, IPTC и XMP каждого результата.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
         <source>Run a flow that holds something that cannot be taken (an unknown operation, a logo that does not decode) without it, instead of stopping.</source>
         <translation>Выполнять поток, содержащий то, что нельзя принять (неизвестную операцию, недекодируемый логотип), без этого, а не останавливаться.</translation>
     </message>
@@ -1239,7 +1284,12 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>мегапиксели должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+50"/>
+        <location line="+7"/>
+        <source>the metadata must be keep, strip-location or strip</source>
+        <translation>метаданные должны быть keep, strip-location или strip</translation>
+    </message>
+    <message>
+        <location line="+54"/>
         <source>no photos given</source>
         <translation>фото не указаны</translation>
     </message>

@@ -11,11 +11,14 @@
 #include "testutils.h"
 
 #include <QBuffer>
+#include <QColorSpace>
 #include <QDateTime>
 #include <QImageWriter>
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
+
+#include <exiv2/exiv2.hpp>
 
 #include <memory>
 
@@ -70,6 +73,60 @@ Outcome runCommand(const QStringList& arguments)
     return TestUtils::run(PELODINE_BATCH_PATH, arguments);
 }
 
+// A 40 x 30 Adobe RGB JPEG as a camera writes it (Orientation 6: shown 30 wide, 40 high), with
+// a thumbnail, GPS and a city, an IPTC keyword and an XMP subject.
+QString writeCameraPhoto(const QString& path, uint16_t orientation)
+{
+    QImage image = TestUtils::filledImage(40, 30, 0xff4080c0);
+    image.setColorSpace(QColorSpace::AdobeRgb);
+    image.save(path, "JPEG");
+    auto photo = Exiv2::ImageFactory::open(path.toStdString());
+    photo->readMetadata();
+    Exiv2::ExifData& exif = photo->exifData();
+    for (const auto& [key, value] : TestUtils::keyValues(
+             "Exif.Image.Make=Camera|Exif.Image.Model=M1|Exif.Image.Artist=Ann|"
+             "Exif.Image.Copyright=(c) Ann|Exif.Photo.DateTimeOriginal=2024:05:01 10:00:00|"
+             "Exif.GPSInfo.GPSLatitudeRef=N"))
+        exif[key.toStdString()] = value.toStdString();
+    exif["Exif.Image.Orientation"] = orientation;
+    exif["Exif.Image.ImageWidth"] = uint32_t(40);
+    exif["Exif.Image.ImageLength"] = uint32_t(30);
+    exif["Exif.Photo.PixelXDimension"] = uint32_t(40);
+    exif["Exif.Photo.PixelYDimension"] = uint32_t(30);
+    exif["Exif.GPSInfo.GPSLatitude"] = Exiv2::URationalValue(Exiv2::URational(48, 1));
+    QByteArray thumbnail;
+    QBuffer buffer(&thumbnail);
+    buffer.open(QIODevice::WriteOnly);
+    TestUtils::filledImage(8, 6, 0xff000000).save(&buffer, "JPEG");
+    Exiv2::ExifThumb(exif).setJpegThumbnail(reinterpret_cast<const Exiv2::byte*>(thumbnail.data()),
+                                            thumbnail.size());
+    photo->iptcData()["Iptc.Application2.Keywords"] = "beach";
+    photo->xmpData()["Xmp.dc.subject"] = "sea";
+    photo->xmpData()["Xmp.photoshop.City"] = "Rovinj";
+    photo->writeMetadata();
+    return path;
+}
+
+// Every EXIF, IPTC and XMP key of the file with its value as text; none when Exiv2 cannot
+// read the file.
+QMap<QString, QString> metadataOf(const QString& path)
+{
+    QMap<QString, QString> found;
+    const auto collect = [&found](const auto& data) {
+        for (const auto& datum : data)
+            found[QString::fromStdString(datum.key())] = QString::fromStdString(datum.toString());
+    };
+    try {
+        auto image = Exiv2::ImageFactory::open(path.toStdString());
+        image->readMetadata();
+        collect(image->exifData());
+        collect(image->iptcData());
+        collect(image->xmpData());
+    } catch (const Exiv2::AnyError&) {
+    }
+    return found;
+}
+
 } // namespace
 
 class TestBatch : public QObject
@@ -89,6 +146,8 @@ private slots:
     void sameFilesAsTheWindow();
     void sampleFlowIntoATimeStampedFolder();
     void failuresAreNamedWithTheirReason();
+    void metadataTravels_data();
+    void metadataTravels();
 
 private:
     // photo0.png and photo1.png in the in folder, sub/photo2.png below it, and a text file;
@@ -266,6 +325,8 @@ void TestBatch::usage_data()
                       "the quality must be 1 to 100+");
     TestUtils::addRow("unknown numbers", "--numbers prime PHOTO", 2,
                       "the numbers must be all, odd or even+");
+    TestUtils::addRow("unknown metadata", "--metadata none PHOTO", 2,
+                      "the metadata must be keep, strip-location or strip+");
     TestUtils::addRow("no photos", "--format PNG", 2, "no photos given+");
     TestUtils::addRow("folder without photos", "EMPTY", 2, "no photos in the folders given");
     TestUtils::addRow("missing flow", "--flow /no/x.flow PHOTO", 2,
@@ -410,6 +471,70 @@ void TestBatch::failuresAreNamedWithTheirReason()
     QCOMPARE(outcome.err.split('\n', Qt::SkipEmptyParts), expected);
     QCOMPARE(readFile(photos.at(0)), before);
     QCOMPARE(fileNames(in), QString("b.png cut.jpg keep.png other.jpg other.png"));
+}
+
+void TestBatch::metadataTravels_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("expected");
+    // The turned 40 x 30 source is written upright: 30 x 40.
+    const QString kept = "Exif.Image.Make=Camera|Exif.Image.Model=M1|Exif.Image.Artist=Ann|"
+                         "Exif.Image.Copyright=(c) Ann|Exif.Photo.DateTimeOriginal=2024:05:01 "
+                         "10:00:00|Iptc.Application2.Keywords=beach|Xmp.dc.subject=sea|"
+                         "Exif.Image.Orientation=1|Exif.Photo.PixelXDimension=30|"
+                         "Exif.Photo.PixelYDimension=40|Exif.Image.ImageWidth=30|"
+                         "Exif.Image.ImageLength=40|";
+    const QString location = "Exif.GPSInfo.GPSLatitudeRef=N|Exif.GPSInfo.GPSLatitude=48/1|"
+                             "Xmp.photoshop.City=Rovinj";
+    const QString noLocation = "Exif.GPSInfo.GPSLatitudeRef=|Exif.GPSInfo.GPSLatitude=|"
+                               "Exif.Image.GPSTag=|Xmp.photoshop.City=";
+    const QString author = "Exif.Image.Artist=Bo|Exif.Image.Copyright=(c) Bo|Xmp.dc.creator=Bo|"
+                           "Xmp.dc.rights=lang=\"x-default\" (c) Bo|Iptc.Application2.Byline=Bo|"
+                           "Iptc.Application2.Copyright=(c) Bo";
+    // An empty value: the key is absent. "nothing": no metadata at all.
+    for (const QString format : {"JPEG", "PNG", "TIFF"})
+        TestUtils::addRow(qPrintable(format + " keep"), format, "", kept + location);
+    TestUtils::addRow("remove location", "PNG", "--metadata strip-location", kept + noLocation);
+    TestUtils::addRow("remove all", "JPEG", "--metadata strip", "nothing");
+    TestUtils::addRow("author over kept", "TIFF", "--artist Bo --copyright (c)_Bo",
+                      author + "|Exif.Image.Make=Camera|" + location);
+    TestUtils::addRow("author only", "JPEG", "--metadata strip --artist Bo --copyright (c)_Bo",
+                      author + "|Exif.Image.Make=|Xmp.dc.subject=|" + noLocation);
+    // XPM carries no metadata; the photo is written all the same.
+    TestUtils::addRow("format without metadata", "XPM", "", "nothing");
+}
+
+// Through pelodine-batch; the source stays as it was, the result keeps its colour profile and
+// never carries the source's thumbnail.
+void TestBatch::metadataTravels()
+{
+    QFETCH(QString, format);
+    QFETCH(QString, options);
+    QFETCH(QString, expected);
+    const QString source = writeCameraPhoto(in + ".jpg", 6);
+    const QByteArray before = readFile(source);
+    QStringList arguments = options.split(' ', Qt::SkipEmptyParts).replaceInStrings("_", " ");
+    arguments << "--format" << format << "--output" << out << source;
+    QCOMPARE(runCommand(arguments).exitCode, 0);
+
+    const QString result = out + "in." + format.toLower();
+    QCOMPARE(QImage(result).size(), QSize(30, 40));
+    const QMap<QString, QString> found = metadataOf(result);
+    if (expected == "nothing")
+        QCOMPARE(found, (QMap<QString, QString>()));
+    else
+        for (const auto& [key, value] : TestUtils::keyValues(expected))
+            QCOMPARE(key + "=" + found.value(key), key + "=" + value);
+    QVERIFY(found.keys().filter("Exif.Thumbnail.").isEmpty());
+    QCOMPARE(readFile(source), before);
+
+    // An upright photo keeps its colour profile past the metadata.
+    const QString upright = writeCameraPhoto(root->path() + "/up.jpg", 1);
+    QCOMPARE(runCommand(arguments.replaceInStrings(source, upright)).exitCode, 0);
+    if (format != "XPM")
+        QCOMPARE(QImage(out + "up." + format.toLower()).colorSpace().primaries(),
+                 QColorSpace::Primaries::AdobeRgb);
 }
 
 PELODINE_TEST_MAIN(TestBatch)

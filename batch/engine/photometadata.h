@@ -1,0 +1,31 @@
+// A photo's EXIF, IPTC and XMP, carried from the source into the written result.
+#pragma once
+
+#include <QByteArray>
+#include <QSize>
+#include <QString>
+
+#include <memory>
+
+struct OutputSettings;
+
+class PhotoMetadata
+{
+public:
+    // What a result keeps of its source's metadata; the stored "KeyMetadata" values.
+    enum Choice { KeepAll = 0, RemoveLocation = 1, RemoveAll = 2 };
+
+    // The metadata of the file at path, opened read-only; empty when it has none or it cannot be
+    // read. Safe on any thread.
+    static PhotoMetadata read(const QString& path);
+
+    // encoded (a whole JPEG, PNG or TIFF file) with this metadata written into it as settings
+    // choose, for a result of size that is upright and carries no thumbnail. The bytes come back
+    // unchanged when there is nothing to carry or the format or the data cannot take it.
+    QByteArray embedInto(const QByteArray& encoded, QSize size,
+                         const OutputSettings& settings) const;
+
+private:
+    struct Data;
+    std::shared_ptr<const Data> data;
+};
