@@ -84,10 +84,10 @@ QImage filledImage(int width, int height, QRgb argb)
     return image;
 }
 
-QImage halvesPicture(int width, int height)
+QImage halvesPicture(int width, int height, QRgb left, QRgb right)
 {
-    QImage picture = filledImage(width, height, 0xffff0000);
-    QPainter(&picture).fillRect(width / 2, 0, width - width / 2, height, QColor(0, 0, 255));
+    QImage picture = filledImage(width, height, left);
+    QPainter(&picture).fillRect(width / 2, 0, width - width / 2, height, QColor(right));
     return picture;
 }
 
@@ -103,8 +103,14 @@ QString writeFile(const QString& path, const QByteArray& data)
 QString writeImage(const QString& path, const QImage& image)
 {
     QDir().mkpath(QFileInfo(path).path());
-    image.save(path);
+    if (!image.save(path))
+        image.save(path, "PNG");
     return path;
+}
+
+QString fileNames(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name).join(' ');
 }
 
 QByteArray readFile(const QString& path)
