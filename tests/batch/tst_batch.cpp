@@ -13,7 +13,6 @@
 #include <QBuffer>
 #include <QDateTime>
 #include <QImageWriter>
-#include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
 
@@ -329,38 +328,6 @@ private slots:
                                    "3 of 3: " + photos.at(2),
                                    "3 of 3 photos written into " + folder};
         QCOMPARE(outcome.err.split('\n', Qt::SkipEmptyParts), expected);
-    }
-
-    // Quiet, only the failures are printed, each with its reason; the exit code says some failed.
-    // A source photo is never written over, also not through a linked folder. A JPEG cut in half
-    // fails with libjpeg's own words, which reach the terminal nowhere else.
-    void failuresAreNamedWithTheirReason()
-    {
-        // Noise, so that half the file ends inside the picture data, past the tables.
-        QImage noise(64, 48, QImage::Format_RGB32);
-        QRandomGenerator random(7);
-        for (int y = 0; y < noise.height(); ++y)
-            random.fillRange(reinterpret_cast<quint32*>(noise.scanLine(y)), noise.width());
-        const QByteArray jpeg = TestUtils::jpegWithOrientation(noise, 1);
-        const QStringList photos{
-            photo("keep.png"), photo("other.jpg"), TestUtils::writeFile(in + "/b.png", "no photo"),
-            in + "/missing.png", TestUtils::writeFile(in + "/cut.jpg", jpeg.left(jpeg.size() / 2))};
-        const QByteArray before = readFile(photos.at(0));
-        QVERIFY(QFile::link(in, root->path() + "/linked"));
-        const Outcome outcome = runCommand(
-            QStringList{"--format", "PNG", "--output", root->path() + "/linked", "--quiet"} +
-            photos);
-        QCOMPARE(outcome.exitCode, 1);
-        QCOMPARE(outcome.out, QString());
-        const QStringList expected{
-            "4 photo(s) failed:",
-            "  " + photos.at(0) + ": cannot write: it would replace a source photo",
-            "  " + photos.at(2) + ": unreadable: not a photo this program can read",
-            "  " + photos.at(3) + ": unreadable: no such file",
-            "  " + photos.at(4) + ": damaged: Corrupt JPEG data: premature end of data segment"};
-        QCOMPARE(outcome.err.split('\n', Qt::SkipEmptyParts), expected);
-        QCOMPARE(readFile(photos.at(0)), before);
-        QCOMPARE(fileNames(in), QString("b.png cut.jpg keep.png other.jpg other.png"));
     }
 
     // A stored number that cannot be read gives the default: quality 90, numbers all.
