@@ -71,8 +71,7 @@ private slots:
 
     void languageForLocale_data()
     {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("expected");
+        TestUtils::addColumns<QString, QString>("locale", "expected");
         addRow("pt_BR", "pt_BR", "pt");
         addRow("zh_CN", "zh_CN", "zh_CN");
         addRow("zh_TW is unknown", "zh_TW", "en");
