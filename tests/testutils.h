@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QVector>
 
+#include <tuple>
+
 namespace TestUtils {
 
 // Points HOME and the XDG folders at a fresh temporary directory, so that no test
@@ -50,6 +52,13 @@ QByteArray jpegWithOrientation(const QImage& image, quint16 orientation);
 template <typename... Types, typename... Names> void addColumns(const Names&... names)
 {
     (QTest::addColumn<Types>(names), ...);
+}
+
+// The current row's values of the named columns, to unpack: auto [name, count] =
+// fetch<QString, int>("name", "count").
+template <typename... Types, typename... Names> std::tuple<Types...> fetch(const Names&... names)
+{
+    return {*static_cast<Types*>(QTest::qData(names, qMetaTypeId<Types>()))...};
 }
 
 // Adds a data row named tag holding values in column order, so that a table reads one row a line.

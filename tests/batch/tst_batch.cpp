@@ -21,6 +21,7 @@
 using OrkWidgets::App;
 using TestUtils::addColumns;
 using TestUtils::addRow;
+using TestUtils::fetch;
 using TestUtils::fileNames;
 using TestUtils::readFile;
 
@@ -100,11 +101,8 @@ private slots:
     // One worker, run once or twice over the same photos into one folder.
     void outputFiles()
     {
-        QFETCH(QString, sources);
-        QFETCH(QString, format);
-        QFETCH(int, numbers);
-        QFETCH(int, runs);
-        QFETCH(QString, files);
+        auto [sources, format, numbers, runs, files] = fetch<QString, QString, int, int, QString>(
+            "sources", "format", "numbers", "runs", "files");
         QStringList paths;
         for (const QString& name : sources.split(' ')) {
             paths << (name.startsWith('!')
@@ -233,9 +231,8 @@ private slots:
 
     void usage()
     {
-        QFETCH(QString, arguments);
-        QFETCH(int, exitCode);
-        QFETCH(QString, message);
+        auto [arguments, exitCode, message] =
+            fetch<QString, int, QString>("arguments", "exitCode", "message");
         QDir().mkpath(root->path() + "/empty/sub");
         const QString broken = TestUtils::writeFile(in + "/broken.flow", "<OperationsFlow><Op");
         for (QString* text : {&arguments, &message})
@@ -283,10 +280,8 @@ private slots:
     // stored settings or the defaults, write the same bytes for one flow and the same photos.
     void sameFilesAsTheWindow()
     {
-        QFETCH(QString, stored);
-        QFETCH(QString, options);
-        QFETCH(QString, window);
-        QFETCH(QString, files);
+        auto [stored, options, window, files] =
+            fetch<QString, QString, QString, QString>("stored", "options", "window", "files");
         const QStringList photos = writePhotos();
         const QString flow =
             TestUtils::writeFile(OrkTools::AppData::flowsFolder() + "job.flow", watermarkFlow);

@@ -32,6 +32,7 @@ using Flow = QMap<int, BaseNode*>;
 namespace AppData = OrkTools::AppData;
 using TestUtils::addColumns;
 using TestUtils::addRow;
+using TestUtils::fetch;
 using TestUtils::readFile;
 
 namespace {
@@ -248,8 +249,7 @@ private slots:
     // What the batch runs from a file: the names of the active operations in flow order.
     void reading()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, active);
+        auto [bytes, active] = fetch<QByteArray, QString>("bytes", "active");
         QString text;
         QVERIFY(FlowFile::readFlowFile(
             TestUtils::writeFile(AppData::flowsFolder() + "in.flow", bytes), &text));
@@ -329,8 +329,7 @@ private slots:
 
     void editing()
     {
-        QFETCH(QString, steps);
-        QFETCH(QString, result);
+        auto [steps, result] = fetch<QString, QString>("steps", "result");
         QVERIFY(FlowFile::installSampleFlow());
         renewPanel();
         panel->show();
@@ -354,10 +353,8 @@ private slots:
 
     void menuDialogs()
     {
-        QFETCH(QString, action);
-        QFETCH(QString, script);
-        QFETCH(QString, file);
-        QFETCH(QByteArray, content);
+        auto [action, script, file, content] =
+            fetch<QString, QString, QString, QByteArray>("action", "script", "file", "content");
         TestUtils::writeFile(AppData::flowsFolder() + "a.flow", "old");
         TestUtils::writeFile(AppData::flowsFolder() + "b.flow", "old");
         renewPanel();
@@ -433,9 +430,7 @@ private slots:
     // behind.
     void undoRedo()
     {
-        QFETCH(QString, before);
-        QFETCH(QString, change);
-        QFETCH(int, steps);
+        auto [before, change, steps] = fetch<QString, QString, int>("before", "change", "steps");
         QVERIFY(FlowFile::installSampleFlow());
         renewPanel();
         panel->show();

@@ -81,8 +81,7 @@ private slots:
 
     void languageForLocale()
     {
-        QFETCH(QString, locale);
-        QFETCH(QString, expected);
+        auto [locale, expected] = TestUtils::fetch<QString, QString>("locale", "expected");
         QCOMPARE(OrkWidgets::TranslationsManager::languageForLocale(locale), expected);
     }
 

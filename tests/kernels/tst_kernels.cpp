@@ -17,6 +17,7 @@
 using namespace OrkGraphX;
 using TestUtils::addColumns;
 using TestUtils::addRow;
+using TestUtils::fetch;
 using Kernel = std::function<QImage(QImage&)>;
 Q_DECLARE_METATYPE(Kernel)
 Q_DECLARE_METATYPE(WMRParams)
@@ -230,9 +231,7 @@ private slots:
 
     void followsTheRule()
     {
-        QFETCH(Kernel, kernel);
-        QFETCH(Kernel, rule);
-        QFETCH(QImage, image);
+        auto [kernel, rule, image] = fetch<Kernel, Kernel, QImage>("kernel", "rule", "image");
         const MessageCount messages;
         const QImage expected = rule(image);
         const int before = MessageCount::count;
@@ -337,9 +336,8 @@ private slots:
 
     void byHand()
     {
-        QFETCH(Kernel, kernel);
-        QFETCH(QString, input);
-        QFETCH(QString, expected);
+        auto [kernel, input, expected] =
+            fetch<Kernel, QString, QString>("kernel", "input", "expected");
         QImage image = fromWords(input);
         QCOMPARE_IMAGES(kernel(image), fromWords(expected));
         QCOMPARE_IMAGES(image, fromWords(input));
@@ -380,11 +378,8 @@ private slots:
 
     void resize()
     {
-        QFETCH(QSize, source);
-        QFETCH(int, mode);
-        QFETCH(QSize, asked);
-        QFETCH(bool, preview);
-        QFETCH(QSize, size);
+        auto [source, mode, asked, preview, size] =
+            fetch<QSize, int, QSize, bool, QSize>("source", "mode", "asked", "preview", "size");
         QImage image = fromWords("ff102030 ff405060/ff708090 ffa0b0c0").scaled(source);
         QCOMPARE_IMAGES(resizeImage(image, asked.width(), asked.height(), mode, preview),
                         size.isEmpty()
@@ -442,8 +437,7 @@ private slots:
 
     void watermarkPlacement()
     {
-        QFETCH(WMRParams, params);
-        QFETCH(QRect, expected);
+        auto [params, expected] = fetch<WMRParams, QRect>("params", "expected");
         const QImage paper = TestUtils::filledImage(1000, 500, 0xff204060);
         QImage image = paper;
         const QImage result = drawWatermark(image, params);

@@ -37,6 +37,7 @@
 
 using TestUtils::addColumns;
 using TestUtils::addRow;
+using TestUtils::fetch;
 
 namespace {
 // An opaque picture whose every pixel differs from its neighbours in all channels.
@@ -209,9 +210,7 @@ private slots:
 
     void everyNode()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, keys);
-        QFETCH(QString, caption);
+        auto [name, keys, caption] = fetch<QString, QString, QString>("name", "keys", "caption");
         const QString text = parametersText("yes", keys);
         const QString english = newNode(name)->parametersText();
         // Under the program's style sheet, with every caption longer.
@@ -377,10 +376,8 @@ private slots:
 
     void stored()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, loaded);
-        QFETCH(QString, clicks);
-        QFETCH(QString, stored);
+        auto [name, loaded, clicks, stored] =
+            fetch<QString, QString, QString, QString>("name", "loaded", "clicks", "stored");
         const QHash<QChar, QString> buttons = {{'R', "RotateRightButton"},
                                                {'L', "RotateLeftButton"},
                                                {'H', "MirrorHButton"},
@@ -434,10 +431,8 @@ private slots:
 
     void headless()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, text);
-        QFETCH(QImage, input);
-        QFETCH(QImage, expected);
+        auto [name, text, input, expected] =
+            fetch<QString, QString, QImage, QImage>("name", "text", "input", "expected");
         QCOMPARE_IMAGES(applyOperation(name, input, text), expected);
     }
 
@@ -470,8 +465,7 @@ private slots:
 
     void neverEnlarge()
     {
-        QFETCH(QString, keys);
-        QFETCH(QSize, size);
+        auto [keys, size] = fetch<QString, QSize>("keys", "size");
         const QImage original = photo(800, 600);
         const QImage resized =
             applyOperation("Resize", original, "<Parameters>" + elements(keys) + "</Parameters>");
