@@ -347,29 +347,27 @@ private slots:
         addRow("offset beyond the end", wmr, "XOffset=50", "", "XOffset=33");
         addRow("size below the end", wmr, "Size=0", "", "Size=1");
         addRow("transparency beyond", wmr, "Transparency=101", "", "Transparency=100");
+        const QString rsz = "Resize";
         // Mode comes first when saved: it resets the sizes to its own range and value.
-        addRow("percent beyond the end", "Resize", "Mode=0|Width=5000", "",
-               "Mode=0|Width=100|Height=50");
-        addRow("mode after the sizes", "Resize", "Width=1200|Height=800|Mode=2", "",
-               "Mode=2|Width=300|Height=300");
-        addRow("back to percent", "Resize", "Mode=2|Width=1200|Mode=0", "",
-               "Mode=0|Width=50|Height=50");
-        addRow("pixels beyond the end", "Resize", "Mode=2|Width=1200|Height=9000", "",
+        addRow("percent clamped", rsz, "Mode=0|Width=5000", "", "Mode=0|Width=100|Height=50");
+        addRow("mode last", rsz, "Width=1200|Height=800|Mode=2", "", "Mode=2|Width=300|Height=300");
+        addRow("back to percent", rsz, "Mode=2|Width=1200|Mode=0", "", "Mode=0|Width=50|Height=50");
+        addRow("pixels clamped", rsz, "Mode=2|Width=1200|Height=9000", "",
                "Mode=2|Width=1200|Height=5000");
         // Only a change of the mode resets them; an unknown one is stored as -1.
-        addRow("same mode, then unknown", "Resize", "Mode=1|Width=700|Mode=1|Mode=7", "",
+        addRow("same mode, then unknown", rsz, "Mode=1|Width=700|Mode=1|Mode=7", "",
                "Mode=-1|Width=700|Height=300");
         // Written only when checked, after the others; a trailing "|" ends the text there.
-        addRow("checked", "Resize", "NoEnlarge=YES", "", "Height=50|NoEnlarge=yes|");
-        addRow("unchecked", "Resize", "NoEnlarge=yes|NoEnlarge=no", "", "Height=50|");
+        addRow("checked", rsz, "NoEnlarge=YES", "", "Height=50|NoEnlarge=yes|");
+        addRow("unchecked", rsz, "NoEnlarge=yes|NoEnlarge=no", "", "Height=50|");
         addRow("text cut at what a line edit holds", wmr, "Text=" + QString(40000, 'a'), "",
                "Text=" + QString(32767, 'a'));
         // Right and left keep their own signs; past a full turn the angle starts again at 0.
-        addRow("right past a full turn", "Rotate", "", "RRRR", "Angle=0");
-        addRow("left past a full turn", "Rotate", "", "LLLL", "Angle=0");
-        addRow("left is not made right", "Rotate", "", "LLLR", "Angle=-180");
+        addRow("right past a full turn", "Rotate", "", "Right Right Right Right", "Angle=0");
+        addRow("left past a full turn", "Rotate", "", "Left Left Left Left", "Angle=0");
+        addRow("left is not made right", "Rotate", "", "Left Left Left Right", "Angle=-180");
         // A new mirror flips left to right; the style sheet knows its buttons by names crossed
-        // with their keys.
+        // with their keys. A click names the button after the node's name.
         addRow("MirrorHButton", "Mirror", "", "H", "Horizontal=yes|Vertical=yes");
         addRow("MirrorVButton", "Mirror", "", "V", "Horizontal=no|Vertical=no");
     }
@@ -378,14 +376,10 @@ private slots:
     {
         auto [name, loaded, clicks, stored] =
             fetch<QString, QString, QString, QString>("name", "loaded", "clicks", "stored");
-        const QHash<QChar, QString> buttons = {{'R', "RotateRightButton"},
-                                               {'L', "RotateLeftButton"},
-                                               {'H', "MirrorHButton"},
-                                               {'V', "MirrorVButton"}};
         auto node = newNode(name);
         load(node.get(), loaded);
-        for (const QChar click : clicks)
-            node->findChild<QPushButton*>(buttons.value(click))->click();
+        for (const QString& click : clicks.split(' ', Qt::SkipEmptyParts))
+            node->findChild<QPushButton*>(name + click + "Button")->click();
         // The batch's reader of a flow stores the same.
         QStringList texts{node->parametersText()};
         if (clicks.isEmpty())
@@ -597,11 +591,8 @@ private slots:
 
         // The right half, inverted; the switched-off grey node hands it on.
         const QImage input = photo(4, 2);
-        QImage expected(2, 2, QImage::Format_ARGB32);
-        for (int y = 0; y < 2; ++y) {
-            for (int x = 0; x < 2; ++x)
-                expected.setPixel(x, y, input.pixel(x + 2, y) ^ 0x00ffffff);
-        }
+        QImage expected = input.copy(2, 0, 2, 2);
+        expected.invertPixels();
         panel.setImage(input.convertToFormat(QImage::Format_RGB888));
         QCOMPARE(panel.sourceImage().format(), QImage::Format_ARGB32);
         QCOMPARE_IMAGES(lastImage(images), expected);
