@@ -27,9 +27,8 @@ QString makeSandboxHome()
         ownSandbox = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/pelodine-test-XXXXXX");
         sandbox = ownSandbox->path();
         qputenv(sandboxVariable, sandbox.toLocal8Bit());
-        const char* subFolders[] = {".config",  ".local/share", ".cache",
-                                    "Pictures", "runtime",      "tmp"};
-        for (const char* folder : subFolders)
+        for (const char* folder :
+             {".config", ".local/share", ".cache", "Pictures", "runtime", "tmp"})
             QDir(sandbox).mkpath(folder);
         QFile::setPermissions(sandbox + "/runtime", QFileDevice::ReadOwner |
                                                         QFileDevice::WriteOwner |

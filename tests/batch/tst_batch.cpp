@@ -261,12 +261,12 @@ private slots:
         }
         // Without the option the tool's defaults hold, whatever the window has stored.
         const QString renamePng = "KeyRename=true|KeyNewName=S|KeyFormat=PNG|KeyQuality=30";
-        addRow("stored not asked for", renamePng, "", "", "photo0.jpeg photo1.jpeg photo2.jpeg");
+        const QString jpegs = "photo0.jpeg photo1.jpeg photo2.jpeg";
+        addRow("stored not asked for", renamePng, "", "", jpegs);
         addRow("no-rename over stored", renamePng, window + " --no-rename", "KeyFormat=PNG",
                "photo0.png photo1.png photo2.png");
-        addRow("flow by name", "", "--flow job", "", "photo0.jpeg photo1.jpeg photo2.jpeg");
-        addRow("flow by file name", "", "--flow job.flow", "",
-               "photo0.jpeg photo1.jpeg photo2.jpeg");
+        addRow("flow by name", "", "--flow job", "", jpegs);
+        addRow("flow by file name", "", "--flow job.flow", "", jpegs);
         addRow("renamed even, stored", "KeyRename=true|KeyNewName=S|KeyNumbers=2", window,
                "KeyRename=true|KeyNewName=S|KeyNumbers=2", "S2.jpeg S4.jpeg S6.jpeg");
         addRow("options over stored", "KeyFormat=BMP|KeyQuality=80",

@@ -52,19 +52,10 @@ QByteArray jpegClaiming(quint16 width, quint16 height)
     return jpeg;
 }
 
-QString flowOf(const QString& operations)
+// A flow of the operation elements.
+QByteArray flowOf(const QString& operations)
 {
-    return "<OperationsFlow>" + operations + "</OperationsFlow>";
-}
-
-QString frames(int count)
-{
-    QString text;
-    for (int i = 0; i < count; ++i)
-        text += QString("<Operation name=\"Frame\" index=\"%1\"><Parameters><Active>yes</Active>"
-                        "<Width>200</Width></Parameters></Operation>")
-                    .arg(i);
-    return text;
+    return ("<OperationsFlow>" + operations + "</OperationsFlow>").toUtf8();
 }
 
 } // namespace
@@ -153,8 +144,12 @@ private slots:
         const QStringList photos{TestUtils::writeFile(in + "/wide.png", pngClaiming(50000, 50000)),
                                  TestUtils::writeFile(in + "/tiny.jpg", jpegClaiming(65500, 65500)),
                                  photo("small.png")};
-        const QString flow =
-            TestUtils::writeFile(root.filePath("frames.flow"), flowOf(frames(200)).toUtf8());
+        QString frames;
+        for (int i = 0; i < 200; ++i)
+            frames += QString(R"(<Operation name="Frame" index="%1"><Parameters><Active>yes)"
+                              "</Active><Width>200</Width></Parameters></Operation>")
+                          .arg(i);
+        const QString flow = TestUtils::writeFile(root.filePath("frames.flow"), flowOf(frames));
         const Outcome outcome =
             run(QStringList{"--output", out, "--quiet", "--flow", flow} + photos);
         QCOMPARE(outcome.exitCode, 1);
@@ -261,8 +256,7 @@ private slots:
                    "<ImageData>data:image/svg+xml;base64," +
                    svg.toBase64() +
                    "</ImageData><ImageName>a.svg</ImageName></Parameters>"
-                   "</Operation>")
-                .toUtf8());
+                   "</Operation>"));
         QCOMPARE(run({"--output", out, "--format", "PNG", "--flow", flow, photo("a.png")}).exitCode,
                  0);
         QCOMPARE(QImage(out + "/a.png").pixel(12, 8), 0xff336699u);
