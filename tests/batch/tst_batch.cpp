@@ -23,6 +23,7 @@ using TestUtils::addColumns;
 using TestUtils::addRow;
 using TestUtils::fetch;
 using TestUtils::fileNames;
+using TestUtils::Outcome;
 using TestUtils::readFile;
 
 namespace {
@@ -50,13 +51,6 @@ void store(const QString& settings)
     for (const auto& [key, value] : TestUtils::keyValues(settings))
         if (!key.isEmpty())
             OrkTools::AppData::writeSetting(key, value);
-}
-
-using TestUtils::Outcome;
-
-Outcome runCommand(const QStringList& arguments)
-{
-    return TestUtils::run(PELODINE_BATCH_PATH, arguments);
 }
 
 } // namespace
@@ -239,7 +233,7 @@ private slots:
             text->replace("PHOTO", photo("a.png"))
                 .replace("EMPTY", root->path() + "/empty")
                 .replace("BROKEN", broken);
-        const Outcome outcome = runCommand(arguments.split(' '));
+        const Outcome outcome = run(arguments.split(' '));
         QCOMPARE(outcome.exitCode, exitCode);
         if (exitCode == 0) {
             QVERIFY2(outcome.out.contains(message), qPrintable(outcome.out));
@@ -297,7 +291,7 @@ private slots:
         QStringList arguments = options.split(' ', Qt::SkipEmptyParts);
         if (!options.contains("--flow"))
             arguments << "--flow" << flow;
-        QCOMPARE(runCommand(arguments + QStringList{"--output", out, in}).exitCode, 0);
+        QCOMPARE(run(arguments + QStringList{"--output", out, in}).exitCode, 0);
         QCOMPARE(fileNames(out), files);
         QCOMPARE(fileNames(windowFolder), files);
         for (const QString& name : files.split(' '))
@@ -309,7 +303,7 @@ private slots:
     void sampleFlowIntoATimeStampedFolder()
     {
         const QStringList photos = writePhotos();
-        const Outcome outcome = runCommand({in});
+        const Outcome outcome = run({in});
         QCOMPARE(outcome.exitCode, 0);
 
         const QStringList folders = QDir(OrkTools::AppData::outputBaseFolder())
@@ -337,6 +331,11 @@ private slots:
     }
 
 private:
+    Outcome run(const QStringList& arguments)
+    {
+        return TestUtils::run(PELODINE_BATCH_PATH, arguments);
+    }
+
     // A 40 x 30 photo of one colour in the in folder.
     QString photo(const QString& name, QRgb colour = 0xff203040)
     {
