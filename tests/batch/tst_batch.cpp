@@ -12,7 +12,6 @@
 
 #include <QBuffer>
 #include <QDateTime>
-#include <QImageWriter>
 #include <QSettings>
 #include <QSignalSpy>
 
@@ -27,8 +26,6 @@ using TestUtils::Outcome;
 using TestUtils::readFile;
 
 namespace {
-
-const QString active = "<Parameters><Active>yes</Active></Parameters>";
 
 // A text watermark, then an Invert: listed in the other order, so the indices must decide.
 const char watermarkFlow[] =
@@ -121,39 +118,30 @@ private slots:
     // way round would give grey 96 and then black. An unknown name is passed over.
     void engine()
     {
-        const QString threshold = "<Parameters><Active>yes</Active><Threshold>128</Threshold>"
-                                  "</Parameters>";
-        const BatchEngine::Photo grey = BatchEngine::apply(
-            TestUtils::filledImage(16, 8, 0xff10e030),
-            BatchEngine::prepare(
-                {{"Binarization", threshold}, {"Sharpen", active}, {"Grayscale", active}}),
-            1000);
-        QCOMPARE_IMAGES(grey.image, TestUtils::filledImage(16, 8, 0xff555555));
-
+        // Each "name=parameter elements" active, on a photo of (16, 224, 48).
+        const auto apply = [](const QString& operations, qint64 budget = 1000) {
+            BatchOperations list;
+            for (const auto& [name, keys] : TestUtils::keyValues(operations))
+                list.append({name, "<Parameters><Active>yes</Active>" + keys + "</Parameters>"});
+            return BatchEngine::apply(TestUtils::filledImage(16, 8, 0xff10e030),
+                                      BatchEngine::prepare(list), budget);
+        };
+        QCOMPARE_IMAGES(apply("Binarization=<Threshold>128</Threshold>|Sharpen=|Grayscale=").image,
+                        TestUtils::filledImage(16, 8, 0xff555555));
         // An operation that leaves no image ends the photo there, and says which one it was.
-        const QString crop = "<Parameters><Active>yes</Active><Top>60</Top><Bottom>60</Bottom>"
-                             "</Parameters>";
-        const BatchEngine::Photo gone =
-            BatchEngine::apply(TestUtils::filledImage(16, 8, 0xff000000),
-                               BatchEngine::prepare({{"Crop", crop}, {"Invert", active}}), 1000);
+        const BatchEngine::Photo gone = apply("Crop=<Top>60</Top><Bottom>60</Bottom>|Invert=");
         QVERIFY(gone.image.isNull());
         QVERIFY2(gone.error.contains("\"Crop\""), qPrintable(gone.error));
         // A 200 % frame on 16 x 8 adds 32 on each side: 80 x 72 is 5760 pixels, refused unmade
         // under a budget of 5000.
-        const QString frame = "<Parameters><Active>yes</Active><Width>200</Width></Parameters>";
-        QCOMPARE(BatchEngine::apply(TestUtils::filledImage(16, 8, 0xff000000),
-                                    BatchEngine::prepare({{"Frame", frame}}), 5000)
-                     .error,
-                 QString("too large: 80 x 72"));
+        QCOMPARE(apply("Frame=<Width>200</Width>", 5000).error, QString("too large: 80 x 72"));
 
         // JPEG at the quality asked for. A write that fails leaves no file, whole or partial.
         const QString source = photo("a.png", 0xff802050);
         const QImage image = TestUtils::filledImage(40, 30, 0xff802050);
         QBuffer jpeg;
         jpeg.open(QIODevice::WriteOnly);
-        QImageWriter writer(&jpeg, "jpeg");
-        writer.setQuality(90);
-        QVERIFY(writer.write(image));
+        QVERIFY(image.save(&jpeg, "JPEG", 90));
         OutputSettings settings;
         settings.quality = 90;
         QVERIFY(BatchEngine({source}, {}, settings, out, {}).write(image, out + "a.jpeg").written);
