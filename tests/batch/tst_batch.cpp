@@ -189,8 +189,7 @@ private slots:
     {
         addColumns<QString, int, QString>("arguments", "exitCode", "message");
         // PHOTO, EMPTY and BROKEN stand for a photo, an empty folder and a flow file that is no
-        // XML.
-        // "+" stands for the line that points to --help after a mistake in the command line.
+        // XML; "+" for the line that points to --help after a mistake in the command line.
         addRow("help", "--help", 0, "--numbers <all|odd|even>");
         addRow("unknown option", "--renmae S PHOTO", 2, "Unknown option 'renmae'.+");
         addRow("no value", "PHOTO --format", 2, "Missing value after '--format'.+");
@@ -310,8 +309,7 @@ private slots:
     // A stored number that cannot be read gives the default: quality 90, numbers all.
     void unreadableSettings()
     {
-        OrkTools::AppData::writeSetting("KeyQuality", "high");
-        OrkTools::AppData::writeSetting("KeyNumbers", "");
+        store("KeyQuality=high|KeyNumbers=");
         const OutputSettings settings = OutputSettings::load();
         QCOMPARE(
             QString("%1 %2 %3").arg(settings.quality).arg(settings.numbers).arg(settings.format),
@@ -332,7 +330,6 @@ private:
 
     // photo0.png and photo1.png in the in folder, sub/photo2.png below it, and a text file;
     // the photos' paths in name order.
-
     QStringList writePhotos()
     {
         // Written last first, so that the directory order does not give the name order by luck.

@@ -507,7 +507,6 @@ private slots:
 private:
     QMenu* flowsMenu() const { return panel->findChild<QPushButton*>("PushButton")->menu(); }
     // A new panel, whose menus list the flows folder as it is now.
-
     void renewPanel()
     {
         panel = std::make_unique<FlowPanel>(&options);
