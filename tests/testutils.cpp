@@ -27,9 +27,8 @@ QString makeSandboxHome()
         ownSandbox = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/pelodine-test-XXXXXX");
         sandbox = ownSandbox->path();
         qputenv(sandboxVariable, sandbox.toLocal8Bit());
-        const char* subFolders[] = {".config",  ".local/share", ".cache",
-                                    "Pictures", "runtime",      "tmp"};
-        for (const char* folder : subFolders)
+        for (const char* folder :
+             {".config", ".local/share", ".cache", "Pictures", "runtime", "tmp"})
             QDir(sandbox).mkpath(folder);
         QFile::setPermissions(sandbox + "/runtime", QFileDevice::ReadOwner |
                                                         QFileDevice::WriteOwner |
@@ -84,10 +83,10 @@ QImage filledImage(int width, int height, QRgb argb)
     return image;
 }
 
-QImage halvesPicture(int width, int height)
+QImage halvesPicture(int width, int height, QRgb left, QRgb right)
 {
-    QImage picture = filledImage(width, height, 0xffff0000);
-    QPainter(&picture).fillRect(width / 2, 0, width - width / 2, height, QColor(0, 0, 255));
+    QImage picture = filledImage(width, height, left);
+    QPainter(&picture).fillRect(width / 2, 0, width - width / 2, height, QColor(right));
     return picture;
 }
 
@@ -103,8 +102,14 @@ QString writeFile(const QString& path, const QByteArray& data)
 QString writeImage(const QString& path, const QImage& image)
 {
     QDir().mkpath(QFileInfo(path).path());
-    image.save(path);
+    if (!image.save(path))
+        image.save(path, "PNG");
     return path;
+}
+
+QString fileNames(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name).join(' ');
 }
 
 QByteArray readFile(const QString& path)

@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QVector>
 
+#include <tuple>
+
 namespace TestUtils {
 
 // Points HOME and the XDG folders at a fresh temporary directory, so that no test
@@ -25,14 +27,19 @@ QString imageDifference(const QImage& actual, const QImage& expected);
 // An ARGB32 image of the given size filled with one colour word.
 QImage filledImage(int width, int height, QRgb argb);
 
-// A picture red on its left half and blue on its right, to see which way it was turned.
-QImage halvesPicture(int width, int height);
+// A picture of one opaque colour on its left half and another on its right (red and blue
+// unless told), to see which way it was turned.
+QImage halvesPicture(int width, int height, QRgb left = 0xffff0000, QRgb right = 0xff0000ff);
 
 // Writes data to path, making the folders on the way; returns path.
 QString writeFile(const QString& path, const QByteArray& data);
 
-// Saves image to path in the format its suffix names, making the folders on the way; returns path.
+// Saves image to path in the format its suffix names (PNG if none Qt knows), making the folders
+// on the way; returns path.
 QString writeImage(const QString& path, const QImage& image);
+
+// The names of the files in folder, hidden and special ones too, sorted, separated by spaces.
+QString fileNames(const QString& folder);
 
 // The bytes of the file at path; empty when it cannot be read.
 QByteArray readFile(const QString& path);
@@ -40,6 +47,19 @@ QByteArray readFile(const QString& path);
 // image as a JPEG whose APP1 segment carries the EXIF orientation tag (6: turn 90 degrees
 // clockwise to show it upright).
 QByteArray jpegWithOrientation(const QImage& image, quint16 orientation);
+
+// Adds the columns of a data table in order: addColumns<QString, int>("name", "count").
+template <typename... Types, typename... Names> void addColumns(const Names&... names)
+{
+    (QTest::addColumn<Types>(names), ...);
+}
+
+// The current row's values of the named columns, to unpack: auto [name, count] =
+// fetch<QString, int>("name", "count").
+template <typename... Types, typename... Names> std::tuple<Types...> fetch(const Names&... names)
+{
+    return {*static_cast<Types*>(QTest::qData(names, qMetaTypeId<Types>()))...};
+}
 
 // Adds a data row named tag holding values in column order, so that a table reads one row a line.
 template <typename... Values> void addRow(const char* tag, const Values&... values)

@@ -180,8 +180,9 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
         return {{}, tr("unreadable: not a regular file")};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
+        // Qt reports a refused open as an open error, in the system's words.
         return {{},
-                file.error() == QFileDevice::PermissionsError
+                file.errorString() == qt_error_string(EACCES)
                     ? tr("unreadable: permission denied")
                     : tr("unreadable: %1").arg(file.errorString())};
     }

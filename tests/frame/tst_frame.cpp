@@ -69,22 +69,13 @@ private slots:
         QCOMPARE(App::dateFromBuildString("Foo  4 2014"), QDate());
     }
 
-    void languageForLocale_data()
-    {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("expected");
-        addRow("pt_BR", "pt_BR", "pt");
-        addRow("zh_CN", "zh_CN", "zh_CN");
-        addRow("zh_TW is unknown", "zh_TW", "en");
-        // A substring test in the order de, ru, ...: a locale merely containing "de" is German.
-        addRow("first code in order wins", "rude", "de");
-    }
-
+    // zh_TW is unknown. A substring test in the order de, ru, ...: a locale merely containing
+    // "de" is German.
     void languageForLocale()
     {
-        QFETCH(QString, locale);
-        QFETCH(QString, expected);
-        QCOMPARE(OrkWidgets::TranslationsManager::languageForLocale(locale), expected);
+        for (const auto& [locale, language] :
+             TestUtils::keyValues("pt_BR=pt|zh_CN=zh_CN|zh_TW=en|rude=de"))
+            QCOMPARE(OrkWidgets::TranslationsManager::languageForLocale(locale), language);
     }
 
     void sampleFlowCopiedOnceAndNeverOverwritten()

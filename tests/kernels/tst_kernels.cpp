@@ -15,7 +15,9 @@
 #include <tuple>
 
 using namespace OrkGraphX;
+using TestUtils::addColumns;
 using TestUtils::addRow;
+using TestUtils::fetch;
 using Kernel = std::function<QImage(QImage&)>;
 Q_DECLARE_METATYPE(Kernel)
 Q_DECLARE_METATYPE(WMRParams)
@@ -177,9 +179,7 @@ class TestKernels : public QObject
 private slots:
     void followsTheRule_data()
     {
-        QTest::addColumn<Kernel>("kernel");
-        QTest::addColumn<Kernel>("rule");
-        QTest::addColumn<QImage>("image");
+        addColumns<Kernel, Kernel, QImage>("kernel", "rule", "image");
         const Kernel same = KERNEL(i);
         const Case cases[] = {
             RULE("right 90", QSize(131, 66), rotateImage(i, 90)),
@@ -231,9 +231,7 @@ private slots:
 
     void followsTheRule()
     {
-        QFETCH(Kernel, kernel);
-        QFETCH(Kernel, rule);
-        QFETCH(QImage, image);
+        auto [kernel, rule, image] = fetch<Kernel, Kernel, QImage>("kernel", "rule", "image");
         const MessageCount messages;
         const QImage expected = rule(image);
         const int before = MessageCount::count;
@@ -248,9 +246,7 @@ private slots:
 
     void byHand_data()
     {
-        QTest::addColumn<Kernel>("kernel");
-        QTest::addColumn<QString>("input");
-        QTest::addColumn<QString>("expected");
+        addColumns<Kernel, QString, QString>("kernel", "input", "expected");
         // The turns read one place too far (O).
         const QString g = "1 2 3 4/5 6 7 8/9 a b c";
         addRow("right 90", KERNEL(rotateRight90(i)), g, "O 9 5/O a 6/O b 7/O c 8");
@@ -272,6 +268,14 @@ private slots:
         addRow("frame 25", KERNEL(drawFrame(i, 25, Qt::red)), g,
                "R*6/R 1 2 3 4 R/R 5 6 7 8 R/R 9 a b c R/R*6");
         addRow("frame -25 cuts in", KERNEL(drawFrame(i, -25, Qt::red)), g, "6 7");
+
+        // Weight 14/16, every channel alike. Down the centre column 3570 → 223, then 447 → 27
+        // and 56 → 3; then along the rows, back up and back left.
+        addRow("blur of one bright pixel", KERNEL(blurImage(i, 1, i.rect(), false)),
+               "0*5/0*5/0 0 ffffffff 0 0/0*5/0*5",
+               "0 0 1010101 0 0/0 2020202 12121212 1010101 0/"
+               "2020202 13131313 99999999 12121212 2020202/0 2020202 11111111 1010101 0/0 0 "
+               "1010101 0 0");
 
         // Brightness P = sqrt(0.299 R² + 0.587 G² + 0.114 B²), contrast factor k = (c + 127) / 127;
         // saturation around P first, then brightness, then contrast pivoting around 0.
@@ -332,24 +336,13 @@ private slots:
 
     void byHand()
     {
-        QFETCH(Kernel, kernel);
-        QFETCH(QString, input);
-        QFETCH(QString, expected);
+        auto [kernel, input, expected] =
+            fetch<Kernel, QString, QString>("kernel", "input", "expected");
         QImage image = fromWords(input);
         QCOMPARE_IMAGES(kernel(image), fromWords(expected));
         QCOMPARE_IMAGES(image, fromWords(input));
         QImage empty;
         QVERIFY(kernel(empty).isNull());
-    }
-
-    void blurOfOneBrightPixel()
-    {
-        // Weight 14/16, every channel alike. Down the centre column 3570 → 223, then 447 → 27
-        // and 56 → 3; then along the rows, back up and back left (the words in hex).
-        QImage image = fromWords("0*5/0*5/0 0 ff 0 0/0*5/0*5", 0x01010101);
-        QCOMPARE_IMAGES(
-            blurImage(image, 1, image.rect(), false),
-            fromWords("0 0 1 0 0/0 2 12 1 0/2 13 99 12 2/0 2 11 1 0/0 0 1 0 0", 0x01010101));
     }
 
     void sharpenCountsTheLeftNeighbourTwice()
@@ -369,11 +362,8 @@ private slots:
 
     void resize_data()
     {
-        QTest::addColumn<QSize>("source");
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QSize>("requested");
-        QTest::addColumn<bool>("preview");
-        QTest::addColumn<QSize>("expected"); // empty: the image comes back unchanged
+        // An empty size: the image comes back unchanged.
+        addColumns<QSize, int, QSize, bool, QSize>("source", "mode", "asked", "preview", "size");
         addRow("percent truncates", QSize(105, 55), 0, QSize(50, 50), false, QSize(52, 27));
         addRow("maximum keeps aspect", QSize(200, 100), 1, QSize(300, 300), false, QSize(300, 150));
         // 200 x 2 into 50 x 50 would be 50 x 0.5: no side of a fit goes below one pixel.
@@ -388,23 +378,19 @@ private slots:
 
     void resize()
     {
-        QFETCH(QSize, source);
-        QFETCH(int, mode);
-        QFETCH(QSize, requested);
-        QFETCH(bool, preview);
-        QFETCH(QSize, expected);
+        auto [source, mode, asked, preview, size] =
+            fetch<QSize, int, QSize, bool, QSize>("source", "mode", "asked", "preview", "size");
         QImage image = fromWords("ff102030 ff405060/ff708090 ffa0b0c0").scaled(source);
-        const QImage result =
-            resizeImage(image, requested.width(), requested.height(), mode, preview);
-        QCOMPARE_IMAGES(result, expected.isEmpty() ? image
-                                                   : image.scaled(expected, Qt::IgnoreAspectRatio,
-                                                                  Qt::SmoothTransformation));
+        QCOMPARE_IMAGES(resizeImage(image, asked.width(), asked.height(), mode, preview),
+                        size.isEmpty()
+                            ? image
+                            : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
 
     void watermarkPlacement_data()
     {
-        QTest::addColumn<WMRParams>("params");
-        QTest::addColumn<QRect>("expected"); // the red on a 1000 x 500 image; null for none
+        // The red on a 1000 x 500 image; null for none.
+        addColumns<WMRParams, QRect>("params", "expected");
         // Text at the first pixel size wider than 30 % of 1000 (one more than fits) in its cell
         // of the 3 x 3 grid, moved by the offsets in percent of the height (y up), with a 2-pixel
         // margin around it.
@@ -451,8 +437,7 @@ private slots:
 
     void watermarkPlacement()
     {
-        QFETCH(WMRParams, params);
-        QFETCH(QRect, expected);
+        auto [params, expected] = fetch<WMRParams, QRect>("params", "expected");
         const QImage paper = TestUtils::filledImage(1000, 500, 0xff204060);
         QImage image = paper;
         const QImage result = drawWatermark(image, params);

@@ -29,7 +29,6 @@
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -45,6 +44,10 @@
 
 #include <memory>
 
+using TestUtils::addColumns;
+using TestUtils::addRow;
+using TestUtils::fetch;
+
 namespace {
 // An opaque picture whose every pixel differs from its neighbours in all channels.
 QImage photo(int width = 48, int height = 36)
@@ -54,14 +57,6 @@ QImage photo(int width = 48, int height = 36)
         for (int x = 0; x < width; ++x)
             image.setPixel(x, y, qRgb(x * 255 / width, y * 255 / height, (x * 7 + y * 13) % 256));
     }
-    return image;
-}
-
-// 8 x 2 pixels, the left half of one colour and the right half of another.
-QImage halves(QRgb left, QRgb right)
-{
-    QImage image = TestUtils::filledImage(8, 2, right);
-    QPainter(&image).fillRect(0, 0, 4, 2, QColor(left));
     return image;
 }
 
@@ -131,57 +126,9 @@ public:
     mutable QStringList asked;
 };
 
-QString oneKeyText(const QString& key, int value)
-{
-    return QString("<Parameters><%1>%2</%1></Parameters>").arg(key).arg(value);
-}
-
-QString savedValue(BaseNode& node, const QString& key)
-{
-    QDomDocument document;
-    document.setContent(node.parametersText());
-    return document.documentElement().firstChildElement(key).text();
-}
-
-// Each numeric key's control has the table's range, step and default, and loading a value
-// beyond either end gives that end.
-template <typename Node> void checkNumericKeys()
-{
-    using Values = typename Node::Values;
-    Node node;
-    for (const Param<Values>& key : Node::Operation::table().keys()) {
-        const QString where = QString("%1 %2").arg(Node::Name, key.name);
-        QObject* control = node.controlFor(key.name);
-        if (key.kind == ParamKind::Slider) {
-            auto* slider = qobject_cast<ComboSlider*>(control);
-            QVERIFY2(slider, qPrintable(where));
-            QCOMPARE(slider->minimum(), key.range.minimum);
-            QCOMPARE(slider->maximum(), key.range.maximum);
-            QCOMPARE(slider->singleStep(), key.range.singleStep);
-            QCOMPARE(slider->tickInterval(), key.range.tickInterval);
-            QCOMPARE(slider->value(), key.uiDefault.toInt());
-            QCOMPARE(slider->unit(), QString::fromUtf8(key.unit));
-        } else if (key.kind == ParamKind::SpinBox) {
-            auto* box = qobject_cast<QSpinBox*>(control);
-            QVERIFY2(box, qPrintable(where));
-            QCOMPARE(box->minimum(), key.range.minimum);
-            QCOMPARE(box->maximum(), key.range.maximum);
-            QCOMPARE(box->value(), key.uiDefault.toInt());
-        } else {
-            continue;
-        }
-        for (const int end : {key.range.minimum, key.range.maximum}) {
-            const int beyond = end == key.range.minimum ? end - 1000 : end + 1000;
-            QDomDocument document;
-            document.setContent(oneKeyText(key.name, beyond));
-            node.readParameters(document.documentElement());
-            QVERIFY2(savedValue(node, key.name) == QString::number(end), qPrintable(where));
-        }
-    }
-}
-
 // A flow of the given steps, each a name and its key=value pairs in the order given.
-QString flowOf(const QVector<QPair<QString, QVector<QPair<QString, QString>>>>& steps)
+using Steps = QVector<QPair<QString, QVector<QPair<QString, QString>>>>;
+QString flowOf(const Steps& steps)
 {
     QString text = "<OperationsFlow>";
     for (int i = 0; i < steps.size(); ++i) {
@@ -210,6 +157,46 @@ BatchOperations windowOperations(const QString& flow)
     return operations;
 }
 
+// The controls a node builds from its table carry the table's range, step, ticks, unit and
+// default, and a value 1000 beyond either end loads as that end.
+template <typename Node> void checkControlsAgainstTable()
+{
+    Node node;
+    for (const auto& key : Node::Operation::table().keys()) {
+        const QString where = QString(Node::Name) + " " + key.name;
+        QObject* control = node.controlFor(key.name);
+        if (key.kind == ParamKind::Slider) {
+            const auto* slider = qobject_cast<ComboSlider*>(control);
+            QVERIFY2(slider && slider->minimum() == key.range.minimum &&
+                         slider->maximum() == key.range.maximum &&
+                         slider->singleStep() == key.range.singleStep &&
+                         slider->tickInterval() == key.range.tickInterval &&
+                         slider->unit() == QString::fromUtf8(key.unit) &&
+                         slider->value() == key.uiDefault.toInt(),
+                     qPrintable(where));
+        } else if (key.kind == ParamKind::SpinBox) {
+            const auto* box = qobject_cast<QSpinBox*>(control);
+            QVERIFY2(box && box->minimum() == key.range.minimum &&
+                         box->maximum() == key.range.maximum &&
+                         box->value() == key.uiDefault.toInt(),
+                     qPrintable(where));
+        } else {
+            continue;
+        }
+        for (const int end : {key.range.minimum, key.range.maximum}) {
+            QDomDocument document;
+            document.setContent(QString("<P><%1>%2</%1></P>")
+                                    .arg(key.name)
+                                    .arg(end + (end == key.range.minimum ? -1000 : 1000)));
+            node.readParameters(document.documentElement());
+            document.setContent(node.parametersText());
+            QVERIFY2(document.documentElement().firstChildElement(key.name).text() ==
+                         QString::number(end),
+                     qPrintable(where));
+        }
+    }
+}
+
 } // namespace
 
 class TestNodes : public QObject
@@ -221,6 +208,19 @@ private:
 
 private slots:
     void cleanup() { CommonData::instance()->previewMode = 1; }
+
+    void controlsFollowTheTables()
+    {
+        checkControlsAgainstTable<BCSNode>();
+        checkControlsAgainstTable<HSTNode>();
+        checkControlsAgainstTable<CRPNode>();
+        checkControlsAgainstTable<FRMNode>();
+        checkControlsAgainstTable<BLRNode>();
+        checkControlsAgainstTable<UCSNode>();
+        checkControlsAgainstTable<BINNode>();
+        checkControlsAgainstTable<RSZNode>();
+        checkControlsAgainstTable<WMRNode>();
+    }
 
     void catalogue()
     {
@@ -242,40 +242,37 @@ private slots:
 
     void everyNode_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("keys");
-        QTest::addColumn<QString>("caption");
+        addColumns<QString, QString, QString>("name", "keys", "caption");
         // Every key away from its default, so that a key the reader or the writer drops shows.
         const QString watermark =
             "Size=35|Text=Copyright 2026 Ünïcode|Position=TopMiddle|Expand=yes|Bold=yes|"
             "Italic=yes|Underlined=yes|XOffset=-12|YOffset=7|Transparency=10|Color=#12ab34|"
             "Background=#fedcba|BackgroundEnabled=yes|Font=DejaVu Sans|ImageData=" +
-            dataUri(halves(qRgb(255, 255, 0), qRgb(0, 0, 255)), "PNG") + "|ImageName=mylogo.jpg";
+            dataUri(TestUtils::halvesPicture(8, 2, 0xffffff00, 0xff0000ff), "PNG") +
+            "|ImageName=mylogo.jpg";
         const QString none = "<H2>No options</H2>";
-        TestUtils::addRow("RGB-Order", "RGB-Order", "Mode=2", "");
-        TestUtils::addRow("BCS", "Brightness, Contrast, Saturation",
-                          "Brightness=-40|Contrast=25|Saturation=30", "");
-        TestUtils::addRow("Rotate", "Rotate", "Angle=-90", "");
-        TestUtils::addRow("Blur", "Blur", "Radius=15", "");
-        TestUtils::addRow("Invert", "Invert", "", none);
-        TestUtils::addRow("Mirror", "Mirror", "Horizontal=no|Vertical=yes", "");
-        TestUtils::addRow("Grayscale", "Grayscale", "", none);
-        TestUtils::addRow("Watermark text", "Watermark", "Mode=0|" + watermark, "");
-        TestUtils::addRow("Watermark logo", "Watermark", "Mode=1|" + watermark, "");
+        addRow("RGB-Order", "RGB-Order", "Mode=2", "");
+        addRow("BCS", "Brightness, Contrast, Saturation",
+               "Brightness=-40|Contrast=25|Saturation=30", "");
+        addRow("Rotate", "Rotate", "Angle=-90", "");
+        addRow("Blur", "Blur", "Radius=15", "");
+        addRow("Invert", "Invert", "", none);
+        addRow("Mirror", "Mirror", "Horizontal=no|Vertical=yes", "");
+        addRow("Grayscale", "Grayscale", "", none);
+        addRow("Watermark text", "Watermark", "Mode=0|" + watermark, "");
+        addRow("Watermark logo", "Watermark", "Mode=1|" + watermark, "");
         // The translations know the bottom margin by its old spelling.
-        TestUtils::addRow("Crop", "Crop", "Left=5|Right=10|Top=15|Bottom=20", "Buttom:");
-        TestUtils::addRow("Resize", "Resize", "Mode=1|Width=40|Height=20|NoEnlarge=yes", "");
-        TestUtils::addRow("Histogram", "Histogram optimizer", "Left=10|Right=30", "");
-        TestUtils::addRow("Frame", "Frame", "Width=12|Color=#102030", "");
-        TestUtils::addRow("Binarization", "Binarization", "Threshold=200", "");
-        TestUtils::addRow("Vignetting", "Vignetting", "Radius=30|Opacity=45|Color=#ff8000", "");
+        addRow("Crop", "Crop", "Left=5|Right=10|Top=15|Bottom=20", "Buttom:");
+        addRow("Resize", "Resize", "Mode=1|Width=40|Height=20|NoEnlarge=yes", "");
+        addRow("Histogram", "Histogram optimizer", "Left=10|Right=30", "");
+        addRow("Frame", "Frame", "Width=12|Color=#102030", "");
+        addRow("Binarization", "Binarization", "Threshold=200", "");
+        addRow("Vignetting", "Vignetting", "Radius=30|Opacity=45|Color=#ff8000", "");
     }
 
     void everyNode()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, keys);
-        QFETCH(QString, caption);
+        auto [name, keys, caption] = fetch<QString, QString, QString>("name", "keys", "caption");
         const QString text = parametersText("yes", keys);
         const QString english = newNode(name)->parametersText();
         // Under the program's style sheet, with every caption longer.
@@ -350,23 +347,33 @@ private slots:
         auto node = newNode(name);
         QSignalSpy changes(node.get(), &BaseNode::parametersChanged);
         QString before = node->parametersText();
-        QStringList silent;
+        QStringList faults;
         const auto check = [&](QObject* control, const std::function<void()>& change) {
             change();
             const QString text = node->parametersText();
+            const QString what =
+                control->metaObject()->className() + QString(" ") + control->objectName();
             if (changes.isEmpty() || (text == before && control->objectName() != "WMRShrinkButton"))
-                silent << control->metaObject()->className() + QString(" ") + control->objectName();
+                faults << "silent " + what;
+            // A value the controls allow reaches the batch as it is, at the ends too.
+            const BatchOperations read =
+                batchOperationsFromFlow(FlowText::flowText({{0, node.get()}}));
+            if (node->isActive() && read.value(0).second != text)
+                faults << "misread " + what;
             changes.clear();
             before = text;
         };
-        const auto flip = [](auto* control) {
+        // To one end and then the other, each a change.
+        const auto ends = [&](auto* control) {
             const bool atMaximum = control->value() == control->maximum();
-            control->setValue(atMaximum ? control->minimum() : control->maximum());
+            for (const int end : {atMaximum ? control->minimum() : control->maximum(),
+                                  atMaximum ? control->maximum() : control->minimum()})
+                check(control, [&] { control->setValue(end); });
         };
         for (QSpinBox* spin : node->findChildren<QSpinBox*>())
-            check(spin, [&] { flip(spin); });
+            ends(spin);
         for (QSlider* slider : node->findChildren<QSlider*>())
-            check(slider, [&] { flip(slider); });
+            ends(slider);
         for (QComboBox* combo : node->findChildren<QComboBox*>())
             check(combo,
                   [&] { combo->setCurrentIndex((combo->currentIndex() + 1) % combo->count()); });
@@ -389,96 +396,99 @@ private slots:
             box->setChecked(false);
             emit box->clicked(false);
         });
-        QCOMPARE(silent.join(", "), QString());
+        QCOMPARE(faults.join(", "), QString());
     }
 
     void stored_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("loaded");
-        QTest::addColumn<QString>("clicks");
-        QTest::addColumn<QString>("stored");
+        addColumns<QString, QString, QString, QString>("name", "loaded", "clicks", "stored");
         const QString bin = "Binarization";
-        TestUtils::addRow("Active in any case", bin, "Active=no|Active=Yes", "", "Active=yes");
-        TestUtils::addRow("missing Active", bin, "Threshold=40", "", "Active=yes|Threshold=40");
+        addRow("Active in any case", bin, "Active=no|Active=Yes", "", "Active=yes");
+        addRow("missing Active", bin, "Threshold=40", "", "Active=yes|Threshold=40");
         const QString wmr = "Watermark";
-        TestUtils::addRow("offset beyond the end", wmr, "XOffset=50", "", "XOffset=33");
-        TestUtils::addRow("size below the end", wmr, "Size=0", "", "Size=1");
-        TestUtils::addRow("transparency beyond", wmr, "Transparency=101", "", "Transparency=100");
+        addRow("offset beyond the end", wmr, "XOffset=50", "", "XOffset=33");
+        addRow("size below the end", wmr, "Size=0", "", "Size=1");
+        addRow("transparency beyond", wmr, "Transparency=101", "", "Transparency=100");
+        const QString rsz = "Resize";
         // Mode comes first when saved: it resets the sizes to its own range and value.
-        TestUtils::addRow("percent beyond the end", "Resize", "Mode=0|Width=5000", "",
-                          "Mode=0|Width=100|Height=50");
-        TestUtils::addRow("mode after the sizes", "Resize", "Width=1200|Height=800|Mode=2", "",
-                          "Mode=2|Width=300|Height=300");
-        TestUtils::addRow("back to percent", "Resize", "Mode=2|Width=1200|Mode=0", "",
-                          "Mode=0|Width=50|Height=50");
+        addRow("percent clamped", rsz, "Mode=0|Width=5000", "", "Mode=0|Width=100|Height=50");
+        addRow("mode last", rsz, "Width=1200|Height=800|Mode=2", "", "Mode=2|Width=300|Height=300");
+        addRow("back to percent", rsz, "Mode=2|Width=1200|Mode=0", "", "Mode=0|Width=50|Height=50");
+        addRow("pixels clamped", rsz, "Mode=2|Width=1200|Height=9000", "",
+               "Mode=2|Width=1200|Height=5000");
+        // Only a change of the mode resets them; an unknown one is stored as -1.
+        addRow("same mode, then unknown", rsz, "Mode=1|Width=700|Mode=1|Mode=7", "",
+               "Mode=-1|Width=700|Height=300");
+        // Written only when checked, after the others; a trailing "|" ends the text there.
+        addRow("checked", rsz, "NoEnlarge=YES", "", "Height=50|NoEnlarge=yes|");
+        addRow("unchecked", rsz, "NoEnlarge=yes|NoEnlarge=no", "", "Height=50|");
+        addRow("text cut at what a line edit holds", wmr, "Text=" + QString(40000, 'a'), "",
+               "Text=" + QString(32767, 'a'));
         // Right and left keep their own signs; past a full turn the angle starts again at 0.
-        TestUtils::addRow("right past a full turn", "Rotate", "", "RRRR", "Angle=0");
-        TestUtils::addRow("left past a full turn", "Rotate", "", "LLLL", "Angle=0");
-        TestUtils::addRow("left is not made right", "Rotate", "", "LLLR", "Angle=-180");
+        addRow("right past a full turn", "Rotate", "", "Right Right Right Right", "Angle=0");
+        addRow("left past a full turn", "Rotate", "", "Left Left Left Left", "Angle=0");
+        addRow("left is not made right", "Rotate", "", "Left Left Left Right", "Angle=-180");
         // A new mirror flips left to right; the style sheet knows its buttons by names crossed
-        // with their keys.
-        TestUtils::addRow("MirrorHButton", "Mirror", "", "H", "Horizontal=yes|Vertical=yes");
-        TestUtils::addRow("MirrorVButton", "Mirror", "", "V", "Horizontal=no|Vertical=no");
+        // with their keys. A click names the button after the node's name.
+        addRow("MirrorHButton", "Mirror", "", "H", "Horizontal=yes|Vertical=yes");
+        addRow("MirrorVButton", "Mirror", "", "V", "Horizontal=no|Vertical=no");
     }
 
     void stored()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, loaded);
-        QFETCH(QString, clicks);
-        QFETCH(QString, stored);
-        const QHash<QChar, QString> buttons = {{'R', "RotateRightButton"},
-                                               {'L', "RotateLeftButton"},
-                                               {'H', "MirrorHButton"},
-                                               {'V', "MirrorVButton"}};
+        auto [name, loaded, clicks, stored] =
+            fetch<QString, QString, QString, QString>("name", "loaded", "clicks", "stored");
         auto node = newNode(name);
         load(node.get(), loaded);
-        for (const QChar click : clicks)
-            node->findChild<QPushButton*>(buttons.value(click))->click();
-        const QString text = node->parametersText();
-        QVERIFY2(text.contains(elements(stored, " ", "\n")), qPrintable(text));
+        for (const QString& click : clicks.split(' ', Qt::SkipEmptyParts))
+            node->findChild<QPushButton*>(name + click + "Button")->click();
+        // The batch's reader of a flow stores the same.
+        QStringList texts{node->parametersText()};
+        if (clicks.isEmpty())
+            texts << batchOperationsFromFlow(flowOf({{name, TestUtils::keyValues(loaded)}}))
+                         .value(0)
+                         .second;
+        for (const QString& text : texts) {
+            QVERIFY2(text.contains(elements(stored, " ", "\n") +
+                                   (stored.endsWith('|') ? "</Parameters>" : "")),
+                     qPrintable(text));
+        }
     }
 
     void headless_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QImage>("input");
-        QTest::addColumn<QImage>("expected");
+        addColumns<QString, QString, QImage, QImage>("name", "text", "input", "expected");
         const QString bcs = "Brightness, Contrast, Saturation";
         const auto keys = [](const char* keys) {
             return "<Parameters>" + elements(keys) + "</Parameters>";
         };
-        const auto grey = [](int l) { return halves(qRgb(l, l, l), qRgb(l, l, l)); };
-        const QImage red = halves(qRgb(255, 0, 0), qRgb(255, 0, 0));
-        const QImage redBlue = halves(qRgb(255, 0, 0), qRgb(0, 0, 255));
+        const auto grey = [](int l) { return TestUtils::filledImage(8, 2, qRgb(l, l, l)); };
+        const QImage red = TestUtils::filledImage(8, 2, 0xffff0000);
+        const QImage redBlue = TestUtils::halvesPicture(8, 2);
         // The values start at zero, not at a new node's. Pure red has the perceived brightness
         // sqrt(0.299) * 255 = 139.43, all that saturation 0 leaves of it.
-        TestUtils::addRow("no XML", bcs, "<<<", red, grey(139));
-        TestUtils::addRow("saturation 0, not 100", bcs, keys("Brightness=10"), red, grey(149));
-        TestUtils::addRow("saturation 50 is the factor 1", bcs, keys("Saturation=50"), red, red);
-        TestUtils::addRow("threshold 0", "Binarization", "", red, grey(255));
-        TestUtils::addRow("no angle of its own", "Rotate", keys("Angle=450"), redBlue, redBlue);
-        TestUtils::addRow("unknown operation", "Sharpness", keys("Radius=3"), redBlue, redBlue);
-        TestUtils::addRow("Horizontal is left to right", "Mirror", keys("Horizontal=yes"), redBlue,
-                          halves(qRgb(0, 0, 255), qRgb(255, 0, 0)));
+        addRow("no XML", bcs, "<<<", red, grey(139));
+        addRow("saturation 0, not 100", bcs, keys("Brightness=10"), red, grey(149));
+        addRow("saturation 50 is the factor 1", bcs, keys("Saturation=50"), red, red);
+        addRow("threshold 0", "Binarization", "", red, grey(255));
+        addRow("no angle of its own", "Rotate", keys("Angle=450"), redBlue, redBlue);
+        addRow("unknown operation", "Sharpness", keys("Radius=3"), redBlue, redBlue);
+        addRow("Horizontal is left to right", "Mirror", keys("Horizontal=yes"), redBlue,
+               TestUtils::halvesPicture(8, 2, 0xff0000ff, 0xffff0000));
         // Half the pixels at level 50, half at 200. Clipping half of the bright end leaves the
         // high level at 50: all turns white. Clipping half of the dark end puts the low level
         // at 200: 50 turns black.
-        const QImage levels = halves(qRgb(50, 50, 50), qRgb(200, 200, 200));
-        TestUtils::addRow("Left clips the bright end", "Histogram optimizer", keys("Left=100"),
-                          levels, grey(255));
-        TestUtils::addRow("Right clips the dark end", "Histogram optimizer", keys("Right=100"),
-                          levels, halves(qRgb(0, 0, 0), qRgb(255, 255, 255)));
+        const QImage levels = TestUtils::halvesPicture(8, 2, 0xff323232, 0xffc8c8c8);
+        addRow("Left clips the bright end", "Histogram optimizer", keys("Left=100"), levels,
+               grey(255));
+        addRow("Right clips the dark end", "Histogram optimizer", keys("Right=100"), levels,
+               TestUtils::halvesPicture(8, 2, 0xff000000, 0xffffffff));
     }
 
     void headless()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, text);
-        QFETCH(QImage, input);
-        QFETCH(QImage, expected);
+        auto [name, text, input, expected] =
+            fetch<QString, QString, QImage, QImage>("name", "text", "input", "expected");
         QCOMPARE_IMAGES(applyOperation(name, input, text), expected);
     }
 
@@ -496,26 +506,22 @@ private slots:
 
     void neverEnlarge_data()
     {
-        QTest::addColumn<QString>("keys");
-        QTest::addColumn<QSize>("size"); // of an 800 x 600 photo's result; empty: the photo itself
-        TestUtils::addRow("box 1600 enlarges", "Mode=1|Width=1600|Height=1600", QSize(1600, 1200));
-        TestUtils::addRow("inside the box", "Mode=1|Width=1600|Height=1600|NoEnlarge=yes", QSize());
-        TestUtils::addRow("box 400 shrinks", "Mode=1|Width=400|Height=400|NoEnlarge=yes",
-                          QSize(400, 300));
-        TestUtils::addRow("150 percent", "Mode=0|Width=150|Height=150|NoEnlarge=yes", QSize());
-        TestUtils::addRow("half the height", "Mode=0|Width=100|Height=50|NoEnlarge=yes",
-                          QSize(800, 300));
-        TestUtils::addRow("pixels shrink", "Mode=2|Width=400|Height=300|NoEnlarge=yes",
-                          QSize(400, 300));
+        // size: of an 800 x 600 photo's result; empty: the photo itself
+        addColumns<QString, QSize>("keys", "size");
+        addRow("box 1600 enlarges", "Mode=1|Width=1600|Height=1600", QSize(1600, 1200));
+        addRow("inside the box", "Mode=1|Width=1600|Height=1600|NoEnlarge=yes", QSize());
+        addRow("box 400 shrinks", "Mode=1|Width=400|Height=400|NoEnlarge=yes", QSize(400, 300));
+        addRow("150 percent", "Mode=0|Width=150|Height=150|NoEnlarge=yes", QSize());
+        addRow("half the height", "Mode=0|Width=100|Height=50|NoEnlarge=yes", QSize(800, 300));
+        addRow("pixels shrink", "Mode=2|Width=400|Height=300|NoEnlarge=yes", QSize(400, 300));
         // Narrower but taller is still an enlargement.
-        TestUtils::addRow("one side larger", "Mode=2|Width=400|Height=700|NoEnlarge=yes", QSize());
-        TestUtils::addRow("unchecked", "Mode=2|Width=900|Height=700|NoEnlarge=no", QSize(900, 700));
+        addRow("one side larger", "Mode=2|Width=400|Height=700|NoEnlarge=yes", QSize());
+        addRow("unchecked", "Mode=2|Width=900|Height=700|NoEnlarge=no", QSize(900, 700));
     }
 
     void neverEnlarge()
     {
-        QFETCH(QString, keys);
-        QFETCH(QSize, size);
+        auto [keys, size] = fetch<QString, QSize>("keys", "size");
         const QImage original = photo(800, 600);
         const QImage resized =
             applyOperation("Resize", original, "<Parameters>" + elements(keys) + "</Parameters>");
@@ -523,14 +529,14 @@ private slots:
             QCOMPARE_IMAGES(resized, original);
         else
             QCOMPARE(resized.size(), size);
-        // A node that does not use it writes what it wrote before the check box existed.
-        QCOMPARE(newNode("Resize")->parametersText(),
-                 parametersText("yes", "Mode=0|Width=50|Height=50"));
     }
 
-    // The font is the system's own.
-    void watermarkDefaults()
+    // The watermark's font is the system's own. A resize that does not use the check box writes
+    // what it wrote before the check box existed.
+    void defaults()
     {
+        QCOMPARE(newNode("Resize")->parametersText(),
+                 parametersText("yes", "Mode=0|Width=50|Height=50"));
         QCOMPARE(WMRNode().parametersText().remove(QRegularExpression(" <Font>[^<]*</Font>\n")),
                  parametersText("yes", "Mode=0|Size=60|Text=Watermark|Position=BottomRight|"
                                        "Expand=no|Bold=no|Italic=no|Underlined=no|XOffset=0|"
@@ -572,7 +578,7 @@ private slots:
     void logo()
     {
         const QString jpeg = folder.filePath("logo.jpg");
-        QVERIFY(halves(qRgb(255, 255, 0), qRgb(0, 0, 255)).save(jpeg));
+        QVERIFY(TestUtils::halvesPicture(8, 2, 0xffffff00, 0xff0000ff).save(jpeg));
         WMRNode node;
         QSignalSpy changes(&node, &BaseNode::parametersChanged);
         QVERIFY(node.openLogoFile(jpeg));
@@ -586,7 +592,7 @@ private slots:
         // Undecodable data leaves the logo there is; the type the text declares is not trusted.
         load(&node, "ImageData=data:image/png;base64,AAAAAAAA|ImageData=hello");
         QCOMPARE(node.parametersText(), text);
-        const QImage bmp = halves(qRgb(1, 2, 3), qRgb(4, 5, 6));
+        const QImage bmp = TestUtils::halvesPicture(8, 2, 0xff010203, 0xff040506);
         load(&node, "ImageData=" + dataUri(bmp, "BMP"));
         QVERIFY(node.parametersText().contains(dataUri(bmp, "PNG")));
     }
@@ -647,11 +653,8 @@ private slots:
 
         // The right half, inverted; the switched-off grey node hands it on.
         const QImage input = photo(4, 2);
-        QImage expected(2, 2, QImage::Format_ARGB32);
-        for (int y = 0; y < 2; ++y) {
-            for (int x = 0; x < 2; ++x)
-                expected.setPixel(x, y, input.pixel(x + 2, y) ^ 0x00ffffff);
-        }
+        QImage expected = input.copy(2, 0, 2, 2);
+        expected.invertPixels();
         panel.setImage(input.convertToFormat(QImage::Format_RGB888));
         QCOMPARE(panel.sourceImage().format(), QImage::Format_ARGB32);
         QCOMPARE_IMAGES(lastImage(images), expected);
@@ -671,52 +674,6 @@ private slots:
         QCOMPARE(realPreviews.size(), 1);
     }
 
-    void controlsFollowTheTables()
-    {
-        checkNumericKeys<BCSNode>();
-        checkNumericKeys<HSTNode>();
-        checkNumericKeys<CRPNode>();
-        checkNumericKeys<FRMNode>();
-        checkNumericKeys<BLRNode>();
-        checkNumericKeys<UCSNode>();
-        checkNumericKeys<BINNode>();
-        checkNumericKeys<RSZNode>();
-        checkNumericKeys<WMRNode>();
-    }
-
-    // Worked by hand: a mode resets both sizes when it changes, so one saved after the sizes
-    // wins; the same mode again keeps them; a text is cut at what a line edit holds.
-    void loadingRules()
-    {
-        const BatchOperations read = batchOperationsFromFlow(
-            flowOf({{"Resize", {{"Width", "1200"}, {"Height", "800"}, {"Mode", "2"}}},
-                    {"Resize", {{"Mode", "2"}, {"Width", "1200"}, {"Height", "9000"}}},
-                    {"Resize", {{"Mode", "0"}, {"Width", "5000"}}},
-                    {"Resize", {{"Mode", "1"}, {"Width", "700"}, {"Mode", "1"}, {"Mode", "7"}}},
-                    {"Watermark", {{"Text", QString(40000, 'a')}}},
-                    {"Resize", {{"NoEnlarge", "YES"}}},
-                    {"Resize", {{"NoEnlarge", "yes"}, {"NoEnlarge", "no"}}}}));
-        QCOMPARE(read.size(), 7);
-        const auto values = [](const QString& text, const QStringList& keys) {
-            QDomDocument document;
-            document.setContent(text);
-            QStringList found;
-            for (const QString& key : keys)
-                found << document.documentElement().firstChildElement(key).text();
-            return found;
-        };
-        const QStringList sizes{"Mode", "Width", "Height"};
-        QCOMPARE(values(read[0].second, sizes), (QStringList{"2", "300", "300"}));
-        QCOMPARE(values(read[1].second, sizes), (QStringList{"2", "1200", "5000"}));
-        QCOMPARE(values(read[2].second, sizes), (QStringList{"0", "100", "50"}));
-        QCOMPARE(values(read[3].second, sizes), (QStringList{"-1", "700", "300"}));
-        QCOMPARE(values(read[4].second, {"Text"}).constFirst().size(), 32767);
-        // Written only when checked, after the keys that were there before it.
-        QVERIFY(read[5].second.endsWith("<Height>50</Height>\n <NoEnlarge>yes</NoEnlarge>\n"
-                                        "</Parameters>\n"));
-        QVERIFY(!read[6].second.contains("NoEnlarge"));
-    }
-
     // Random flows: every name, its own keys and some foreign ones in random order, values
     // inside, at and beyond the ends, unreadable, font aliases; some switched off.
     void flowReadingMatchesTheWindow()
@@ -734,57 +691,29 @@ private slots:
         }
         // Keys written only when changed are not in a new node's text.
         keysOf["Resize"] << "NoEnlarge";
-        const QStringList values{"-1000",
-                                 "-128",
-                                 "-127",
-                                 "-34",
-                                 "-33",
-                                 "-1",
-                                 "0",
-                                 "1",
-                                 "2",
-                                 "3",
-                                 "7",
-                                 "8",
-                                 "33",
-                                 "34",
-                                 "100",
-                                 "101",
-                                 "128",
-                                 "255",
-                                 "256",
-                                 "450",
-                                 "4999",
-                                 "5000",
-                                 "5001",
-                                 "x",
-                                 "",
-                                 "yes",
-                                 "no",
-                                 "YES",
-                                 "#12ab34",
-                                 "red",
-                                 "TopLeft",
-                                 "Middle",
-                                 "Nowhere",
-                                 "DejaVu Sans",
-                                 "DejaVu Serif",
-                                 "Serif",
-                                 "monospace",
-                                 "No Such Font",
-                                 "Times New Roman"};
-        // The family a new font picker shows, given to it again, and after another family.
+        const QStringList values =
+            QString("-1000|-128|-127|-34|-33|-1|0|1|2|3|7|8|33|34|100|101|128|255|256|450|4999|"
+                    "5000|5001|x||yes|no|YES|#12ab34|red|TopLeft|Middle|Nowhere|DejaVu Sans|"
+                    "DejaVu Serif|Serif|monospace|No Such Font|Times New Roman")
+                .split('|');
+        // Every key beyond both ends at once; the family a new font picker shows, given to it
+        // again and after another family.
         const QString shown = QGuiApplication::font().family();
-        for (const QStringList& fonts :
-             {QStringList{shown}, QStringList{"No Such Font", shown, "Serif", shown}}) {
-            QVector<QPair<QString, QString>> pairs;
-            for (const QString& font : fonts)
-                pairs.append({"Font", font});
-            const QString flow = flowOf({{"Watermark", pairs}});
-            QCOMPARE(batchOperationsFromFlow(flow), windowOperations(flow));
+        QVector<Steps> flows{
+            {{"Watermark", TestUtils::keyValues("Font=" + shown)}},
+            {{"Watermark", TestUtils::keyValues(QString("Font=No Such Font|Font=%1|Font=Serif|"
+                                                        "Font=%1")
+                                                    .arg(shown))}}};
+        for (const QString& name : names) {
+            for (const char* end : {"-99999", "99999"}) {
+                QVector<QPair<QString, QString>> pairs;
+                for (const QString& key : keysOf[name])
+                    pairs.append({key, end});
+                flows.append({{name, pairs}});
+            }
         }
         for (int round = 0; round < 300; ++round) {
-            QVector<QPair<QString, QVector<QPair<QString, QString>>>> steps;
+            Steps steps;
             for (int step = random.bounded(1, 5); step > 0; --step) {
                 const QString name = names.at(random.bounded(names.size()));
                 const QStringList& own = keysOf[name];
@@ -797,6 +726,9 @@ private slots:
                 }
                 steps.append({name, pairs});
             }
+            flows.append(steps);
+        }
+        for (const Steps& steps : qAsConst(flows)) {
             const QString flow = flowOf(steps);
             QCOMPARE(batchOperationsFromFlow(flow), windowOperations(flow));
         }
