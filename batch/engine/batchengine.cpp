@@ -121,7 +121,9 @@ BatchEngine::Photo BatchEngine::process(int index)
     if (photo.image.isNull())
         return photo;
     Photo result = apply(std::move(photo.image), operations, options.pixelBudget);
-    result.metadata = photo.metadata;
+    // Exiv2 keeps to the thread that drives the run: on the reader thread its thread-local
+    // state outlived the thread, which leak checkers cannot walk.
+    result.metadata = PhotoMetadata::read(sources.at(index));
     return result;
 }
 
@@ -201,7 +203,7 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
         return {{}, tr("unreadable: not a photo this program can read")};
     if (qint64(image.width()) * image.height() > pixelBudget)
         return {{}, tooLarge(image.size())};
-    return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}, PhotoMetadata::read(path)};
+    return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}};
 }
 
 QString BatchEngine::createRunFolder(const QString& base, const QDateTime& start, bool exclusive)
