@@ -37,7 +37,7 @@ test: build
 # suppressed (fast_unwind_on_malloc=0 gives the full allocation stacks the suppressions match).
 SANITIZE_REPORTS = $(abspath $(SANITIZE_DIR))/reports
 SANITIZE_ENV = ASAN_OPTIONS=exitcode=86:log_path=$(SANITIZE_REPORTS)/asan:detect_leaks=1:fast_unwind_on_malloc=0:detect_stack_use_after_return=1:strict_init_order=1:check_initialization_order=1 \
-	LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan-suppressions.txt:print_suppressions=0 \
+	LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan-suppressions.txt:print_suppressions=0:use_tls=0 \
 	UBSAN_OPTIONS=exitcode=86:halt_on_error=1:print_stacktrace=1
 
 test-sanitize: deps
