@@ -124,6 +124,16 @@ void addOptions(QCommandLineParser& parser)
                                              "taken (GPS and location fields), or none. "
                                              "Default: keep."),
          "keep|strip-location|strip"},
+        {"background",
+         QCoreApplication::translate("main", "The colour transparent pixels are laid on in JPEG, "
+                                             "BMP and PPM, as a name or #rrggbb. Default: "
+                                             "white."),
+         "COLOR"},
+        {"extension",
+         QCoreApplication::translate("main", "The file extension: the format's name in lower "
+                                             "case (jpeg, tiff) or the short one (jpg, tif). "
+                                             "Default: format."),
+         "format|short"},
         {"artist",
          QCoreApplication::translate("main", "Write TEXT as the artist into every result's "
                                              "EXIF, IPTC and XMP."),
@@ -217,6 +227,18 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
         if (settings.metadata < 0)
             return QCoreApplication::translate("main", "the metadata must be keep, "
                                                        "strip-location or strip");
+    }
+    if (parser.isSet("background")) {
+        settings.background = QColor(parser.value("background"));
+        if (!settings.background.isValid())
+            return QCoreApplication::translate("main", "unknown colour %1")
+                .arg(parser.value("background"));
+    }
+    if (parser.isSet("extension")) {
+        const int form = QStringList{"format", "short"}.indexOf(parser.value("extension"));
+        if (form < 0)
+            return QCoreApplication::translate("main", "the extension must be format or short");
+        settings.shortExtensions = form == 1;
     }
     if (parser.isSet("artist"))
         settings.artist = parser.value("artist");

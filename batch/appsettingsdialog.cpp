@@ -1,5 +1,6 @@
 #include "appsettingsdialog.h"
 
+#include "colorbutton.h"
 #include "comboslider.h"
 #include "outputsettings.h"
 
@@ -46,8 +47,13 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     maxMegapixelsBox = new QSpinBox;
     maxMegapixelsBox->setRange(1, 10000);
     maxMegapixelsBox->setSuffix(tr(" megapixels"));
+    backgroundButton = new OrkWidgets::ColorButton(Qt::white, this);
+    backgroundButton->setToolTip(tr("Transparent pixels are laid on it in JPEG, BMP and PPM"));
+    shortExtensionsBox = new QCheckBox(tr("Short file extensions (.jpg, .tif)"));
     auto* limitsForm = new QFormLayout;
     limitsForm->addRow(tr("Largest photo:"), maxMegapixelsBox);
+    limitsForm->addRow(tr("Background:"), backgroundButton);
+    limitsForm->addRow(shortExtensionsBox);
 
     // In the order of PhotoMetadata::Choice.
     metadataCombo = new QComboBox;
@@ -93,6 +99,8 @@ void AppSettingsDialog::slotSaveSettings()
     settings.format = formatCombo->currentText();
     settings.numbers = numbersCombo->currentIndex();
     settings.maxMegapixels = maxMegapixelsBox->value();
+    settings.background = backgroundButton->color();
+    settings.shortExtensions = shortExtensionsBox->isChecked();
     settings.metadata = metadataCombo->currentIndex();
     settings.artist = artistEdit->text();
     settings.copyright = copyrightEdit->text();
@@ -110,6 +118,8 @@ void AppSettingsDialog::slotLoadSettings()
     formatCombo->setCurrentText(settings.format);
     numbersCombo->setCurrentIndex(settings.numbers);
     maxMegapixelsBox->setValue(settings.maxMegapixels);
+    backgroundButton->setColor(settings.background);
+    shortExtensionsBox->setChecked(settings.shortExtensions);
     metadataCombo->setCurrentIndex(settings.metadata);
     artistEdit->setText(settings.artist);
     copyrightEdit->setText(settings.copyright);

@@ -11,6 +11,9 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QSpinBox;
+namespace OrkWidgets {
+class ColorButton;
+}
 
 class AppSettingsDialog : public QDialog
 {
@@ -35,6 +38,8 @@ private:
     QLineEdit* newNameEdit = nullptr;
     QComboBox* numbersCombo = nullptr;
     QSpinBox* maxMegapixelsBox = nullptr;
+    OrkWidgets::ColorButton* backgroundButton = nullptr;
+    QCheckBox* shortExtensionsBox = nullptr;
     QComboBox* metadataCombo = nullptr;
     QLineEdit* artistEdit = nullptr;
     QLineEdit* copyrightEdit = nullptr;

@@ -8,9 +8,11 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QPainter>
 #include <QSaveFile>
 #include <QtConcurrent>
 
+#include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
 #include <sys/types.h>
@@ -27,6 +29,23 @@ QStringList pathForms(const QString& path)
     if (!canonical.isEmpty())
         forms << canonical;
     return forms;
+}
+
+// The image laid on the colour where it is not opaque, so that a format without transparency
+// shows the background chosen rather than whatever colour the clear pixels hold.
+QImage laidOn(const QImage& image, const QColor& background)
+{
+    const QImage words = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < words.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(words.constScanLine(y));
+        if (std::all_of(row, row + words.width(), [](QRgb pixel) { return qAlpha(pixel) == 255; }))
+            continue;
+        QImage result(words.size(), QImage::Format_RGB32);
+        result.fill(background);
+        QPainter(&result).drawImage(0, 0, words);
+        return result;
+    }
+    return image;
 }
 
 QString tooLarge(const QSize& size)
@@ -64,7 +83,7 @@ BatchEngine::BatchEngine(const QStringList& sources, const BatchOperations& oper
     : sources(sources)
     , settings(settings)
     , destination(destination)
-    , extension("." + OutputNaming::extension(settings.format))
+    , extension("." + settings.extension())
     , options(options)
     , operations(prepare(operations))
 {
@@ -155,7 +174,9 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, settings.format.toLatin1());
     writer.setQuality(settings.writerQuality());
-    if (!writer.write(image)) {
+    const QImage written =
+        settings.keepsTransparency() ? image : laidOn(image, settings.background);
+    if (!writer.write(written)) {
         file.cancelWriting();
         return {false, tr("cannot write: %1").arg(writer.errorString())};
     }

@@ -4,8 +4,12 @@
 
 namespace OutputNaming {
 
-QString extension(const QString& format)
+QString extension(const QString& format, bool shortForm)
 {
+    if (shortForm && format == QLatin1String("JPEG"))
+        return QStringLiteral("jpg");
+    if (shortForm && format == QLatin1String("TIFF"))
+        return QStringLiteral("tif");
     return format.toLower();
 }
 

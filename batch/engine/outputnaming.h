@@ -5,8 +5,9 @@
 
 namespace OutputNaming {
 
-// The file extension of an output format: its name in lower case ("JPEG" gives "jpeg").
-QString extension(const QString& format);
+// The file extension of an output format: its name in lower case ("JPEG" gives "jpeg"); in the
+// short form the three letters most programs write ("jpg", "tif").
+QString extension(const QString& format, bool shortForm = false);
 
 // The name of the photo at index (0-based) of a run. With rename off, its display name
 // (CommonData::displayNameOf); with rename on, newName followed by the scheme's number: numbers 0

@@ -1,6 +1,7 @@
 #include "outputsettings.h"
 
 #include "appdata.h"
+#include "outputnaming.h"
 
 namespace {
 
@@ -14,6 +15,8 @@ const char keyMaxMegapixels[] = "KeyMaxMegapixels";
 const char keyMetadata[] = "KeyMetadata";
 const char keyArtist[] = "KeyArtist";
 const char keyCopyright[] = "KeyCopyright";
+const char keyBackground[] = "KeyBackground";
+const char keyShortExtensions[] = "KeyShortExtensions";
 
 // A stored number, or the default when the stored text is not one.
 int readInt(const char* key, int defaultValue)
@@ -43,6 +46,10 @@ OutputSettings OutputSettings::load()
     settings.artist = OrkTools::AppData::readSetting(keyArtist, defaults.artist).toString();
     settings.copyright =
         OrkTools::AppData::readSetting(keyCopyright, defaults.copyright).toString();
+    const QColor background(OrkTools::AppData::readSetting(keyBackground).toString());
+    settings.background = background.isValid() ? background : defaults.background;
+    settings.shortExtensions =
+        OrkTools::AppData::readSetting(keyShortExtensions, defaults.shortExtensions).toBool();
     return settings;
 }
 
@@ -58,6 +65,18 @@ void OutputSettings::save() const
     OrkTools::AppData::writeSetting(keyMetadata, metadata);
     OrkTools::AppData::writeSetting(keyArtist, artist);
     OrkTools::AppData::writeSetting(keyCopyright, copyright);
+    OrkTools::AppData::writeSetting(keyBackground, background.name());
+    OrkTools::AppData::writeSetting(keyShortExtensions, shortExtensions);
+}
+
+QString OutputSettings::extension() const
+{
+    return OutputNaming::extension(format, shortExtensions);
+}
+
+bool OutputSettings::keepsTransparency() const
+{
+    return format != "JPEG" && format != "BMP" && format != "PPM";
 }
 
 QStringList OutputSettings::formats()

@@ -1,6 +1,7 @@
 // The stored output settings of a batch run: format, quality, renaming and what happens at the end.
 #pragma once
 
+#include <QColor>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,9 @@ struct OutputSettings
     int metadata = 0;            // "KeyMetadata": a PhotoMetadata::Choice, 0 keeps it all
     QString artist;              // "KeyArtist": written into the results' metadata when set
     QString copyright;           // "KeyCopyright": likewise
+    // "KeyBackground": what transparent pixels are laid on in a format without transparency.
+    QColor background = Qt::white;
+    bool shortExtensions = false; // "KeyShortExtensions": ".jpg" and ".tif" instead of the names
 
     // The stored values; a key that is missing or unreadable gives the default above.
     static OutputSettings load();
@@ -30,4 +34,8 @@ struct OutputSettings
     int writerQuality() const;
     // maxMegapixels in pixels.
     qint64 pixelBudget() const;
+    // The results' file extension, without the dot.
+    QString extension() const;
+    // Whether the format keeps transparency; the others get photos laid on the background.
+    bool keepsTransparency() const;
 };

@@ -4,7 +4,7 @@
 <context>
     <name>AppSettingsDialog</name>
     <message>
-        <location filename="../../batch/appsettingsdialog.cpp" line="+21"/>
+        <location filename="../../batch/appsettingsdialog.cpp" line="+22"/>
         <source> Settings</source>
         <translation> Einstellungen</translation>
     </message>
@@ -65,11 +65,26 @@
     </message>
     <message>
         <location line="+2"/>
+        <source>Transparent pixels are laid on it in JPEG, BMP and PPM</source>
+        <translation>Transparente Pixel werden in JPEG, BMP und PPM darauf gelegt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Short file extensions (.jpg, .tif)</source>
+        <translation>Kurze Dateiendungen (.jpg, .tif)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Largest photo:</source>
         <translation>Größtes Foto:</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+1"/>
+        <source>Background:</source>
+        <translation>Hintergrund:</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Keep all</source>
         <translation>Alle behalten</translation>
     </message>
@@ -189,23 +204,23 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+110"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+129"/>
         <source>no photo at position %1</source>
         <translation>kein Foto an Position %1</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+26"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-89"/>
-        <location line="+113"/>
+        <location line="-91"/>
+        <location line="+117"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
     <message>
-        <location line="-124"/>
+        <location line="-128"/>
         <source>too large: %1 x %2</source>
         <translation>zu groß: %1 x %2</translation>
     </message>
@@ -225,7 +240,7 @@
         <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
     </message>
     <message>
-        <location line="+42"/>
+        <location line="+44"/>
         <source>cannot write: %1 is a link</source>
         <translation>Schreiben nicht möglich: %1 ist eine Verknüpfung</translation>
     </message>
@@ -240,12 +255,12 @@
         <translation>Schreiben nicht möglich: %1 existiert bereits</translation>
     </message>
     <message>
-        <location line="+35"/>
+        <location line="+37"/>
         <source>unreadable: not a regular file</source>
         <translation>nicht lesbar: keine normale Datei</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+6"/>
         <source>unreadable: permission denied</source>
         <translation>nicht lesbar: keine Berechtigung</translation>
     </message>
@@ -270,12 +285,12 @@
         <translation>nicht lesbar: kein Foto, das dieses Programm lesen kann</translation>
     </message>
     <message>
-        <location line="-23"/>
+        <location line="-24"/>
         <source>unreadable: no such file</source>
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="+56"/>
+        <location line="+57"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -1215,6 +1230,16 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
     </message>
     <message>
         <location line="+6"/>
+        <source>The colour transparent pixels are laid on in JPEG, BMP and PPM, as a name or #rrggbb. Default: white.</source>
+        <translation>Die Farbe, auf die transparente Pixel in JPEG, BMP und PPM gelegt werden, als Name oder #rrggbb. Vorgabe: weiß.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The file extension: the format&apos;s name in lower case (jpeg, tiff) or the short one (jpg, tif). Default: format.</source>
+        <translation>Die Dateiendung: der Name des Formats in Kleinbuchstaben (jpeg, tiff) oder die kurze (jpg, tif). Vorgabe: format.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Write TEXT as the artist into every result&apos;s EXIF, IPTC and XMP.</source>
         <translation>TEXT als Urheber in EXIF, IPTC und XMP jedes Ergebnisses schreiben.</translation>
     </message>
@@ -1287,6 +1312,16 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <location line="+7"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>die Metadaten müssen keep, strip-location oder strip sein</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>unknown colour %1</source>
+        <translation>unbekannte Farbe %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the extension must be format or short</source>
+        <translation>die Endung muss format oder short sein</translation>
     </message>
     <message>
         <location line="+54"/>

@@ -4,7 +4,7 @@
 <context>
     <name>AppSettingsDialog</name>
     <message>
-        <location filename="../../batch/appsettingsdialog.cpp" line="+21"/>
+        <location filename="../../batch/appsettingsdialog.cpp" line="+22"/>
         <source> Settings</source>
         <translation> Настройки</translation>
     </message>
@@ -65,11 +65,26 @@
     </message>
     <message>
         <location line="+2"/>
+        <source>Transparent pixels are laid on it in JPEG, BMP and PPM</source>
+        <translation>Прозрачные пиксели в JPEG, BMP и PPM кладутся на этот цвет</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Short file extensions (.jpg, .tif)</source>
+        <translation>Короткие расширения файлов (.jpg, .tif)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Largest photo:</source>
         <translation>Наибольшая фотография:</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+1"/>
+        <source>Background:</source>
+        <translation>Фон:</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Keep all</source>
         <translation>Сохранить все</translation>
     </message>
@@ -189,23 +204,23 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+110"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+129"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+26"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-89"/>
-        <location line="+113"/>
+        <location line="-91"/>
+        <location line="+117"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
     <message>
-        <location line="-124"/>
+        <location line="-128"/>
         <source>too large: %1 x %2</source>
         <translation>слишком большое: %1 x %2</translation>
     </message>
@@ -225,7 +240,7 @@
         <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
     </message>
     <message>
-        <location line="+42"/>
+        <location line="+44"/>
         <source>cannot write: %1 is a link</source>
         <translation>запись невозможна: %1 — ссылка</translation>
     </message>
@@ -240,12 +255,12 @@
         <translation>запись невозможна: %1 уже существует</translation>
     </message>
     <message>
-        <location line="+35"/>
+        <location line="+37"/>
         <source>unreadable: not a regular file</source>
         <translation>не читается: не обычный файл</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+6"/>
         <source>unreadable: permission denied</source>
         <translation>не читается: нет прав доступа</translation>
     </message>
@@ -270,12 +285,12 @@
         <translation>не читается: это не фото, которое может прочитать программа</translation>
     </message>
     <message>
-        <location line="-23"/>
+        <location line="-24"/>
         <source>unreadable: no such file</source>
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="+56"/>
+        <location line="+57"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -1215,6 +1230,16 @@ A source photo is never written over; nothing is written through a link, outside
     </message>
     <message>
         <location line="+6"/>
+        <source>The colour transparent pixels are laid on in JPEG, BMP and PPM, as a name or #rrggbb. Default: white.</source>
+        <translation>Цвет, на который кладутся прозрачные пиксели в JPEG, BMP и PPM, в виде имени или #rrggbb. По умолчанию: белый.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The file extension: the format&apos;s name in lower case (jpeg, tiff) or the short one (jpg, tif). Default: format.</source>
+        <translation>Расширение файла: имя формата строчными буквами (jpeg, tiff) или короткое (jpg, tif). По умолчанию: format.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
         <source>Write TEXT as the artist into every result&apos;s EXIF, IPTC and XMP.</source>
         <translation>Записать TEXT как автора в EXIF, IPTC и XMP каждого результата.</translation>
     </message>
@@ -1287,6 +1312,16 @@ A source photo is never written over; nothing is written through a link, outside
         <location line="+7"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>метаданные должны быть keep, strip-location или strip</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>unknown colour %1</source>
+        <translation>неизвестный цвет %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the extension must be format or short</source>
+        <translation>расширение должно быть format или short</translation>
     </message>
     <message>
         <location line="+54"/>

@@ -438,6 +438,32 @@ private slots:
                      QColorSpace::Primaries::AdobeRgb);
     }
 
+    // Formats without transparency lay a clear photo on the background (white unless chosen);
+    // the others keep it clear. The short extensions are "jpg" and "tif".
+    void transparencyAndExtensions_data()
+    {
+        addColumns<QString, QString, uint>("arguments", "file", "pixel");
+        addRow("JPEG on white", "", "a.jpeg", 0xfff0f0f0u);
+        addRow("JPEG on red, short", "--background #ff0000 --extension short", "a.jpg",
+               0xfff00000u);
+        addRow("PPM on black", "--format PPM --background black", "a.ppm", 0xff000000u);
+        addRow("PNG stays clear", "--format PNG --extension short", "a.png", 0x00000000u);
+        addRow("TIFF short", "--format TIFF --extension short", "a.tif", 0x00000000u);
+    }
+
+    void transparencyAndExtensions()
+    {
+        auto [arguments, file, pixel] = fetch<QString, QString, uint>("arguments", "file", "pixel");
+        const QString clear = TestUtils::writeImage(in + "/a.png", TestUtils::filledImage(8, 8, 0));
+        const QString none = TestUtils::writeFile(in + "/none.flow", "<OperationsFlow/>");
+        QCOMPARE(run(arguments.split(' ', Qt::SkipEmptyParts) +
+                     QStringList{"--flow", none, "--output", out, clear})
+                     .exitCode,
+                 0);
+        QCOMPARE(fileNames(out), file);
+        QCOMPARE(QImage(out + file).pixel(4, 4) & 0xfff0f0f0, pixel);
+    }
+
 private:
     Outcome run(const QStringList& arguments)
     {
