@@ -124,6 +124,12 @@ void addOptions(QCommandLineParser& parser)
                                              "taken (GPS and location fields), or none. "
                                              "Default: keep."),
          "keep|strip-location|strip"},
+        {"max-kb",
+         QCoreApplication::translate("main", "Keep every JPEG file at most N kilobytes: the "
+                                             "highest quality up to --quality that fits; a "
+                                             "photo that fits not even at quality 1 is written "
+                                             "at 1 and named."),
+         "N"},
         {"background",
          QCoreApplication::translate("main", "The colour transparent pixels are laid on in JPEG, "
                                              "BMP and PPM, as a name or #rrggbb. Default: "
@@ -228,6 +234,13 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
             return QCoreApplication::translate("main", "the metadata must be keep, "
                                                        "strip-location or strip");
     }
+    if (parser.isSet("max-kb")) {
+        bool ok = false;
+        settings.maxKilobytes = parser.value("max-kb").toInt(&ok);
+        if (!ok || settings.maxKilobytes < 1)
+            return QCoreApplication::translate("main", "the kilobytes must be a whole number of "
+                                                       "at least 1");
+    }
     if (parser.isSet("background")) {
         settings.background = QColor(parser.value("background"));
         if (!settings.background.isValid())
@@ -326,6 +339,7 @@ int run(const Job& job)
     BatchEngine engine(job.photos, job.operations, job.settings, job.destination,
                        {true, job.overwrite, job.settings.pixelBudget()});
     QStringList failures;
+    QStringList notes;
     const int count = engine.count();
     for (int i = 0; i < count; ++i) {
         const QString& source = job.photos.at(i);
@@ -334,6 +348,8 @@ int run(const Job& job)
         const BatchEngine::Result result = engine.step(i);
         if (!result.written())
             failures << source + ": " + result.error;
+        else if (!result.note.isEmpty())
+            notes << source + ": " + result.note;
     }
     if (!job.quiet)
         err() << QCoreApplication::translate("main", "%1 of %2 photos written into %3")
@@ -348,6 +364,8 @@ int run(const Job& job)
         for (const QString& failure : qAsConst(failures))
             err() << "  " << failure << Qt::endl;
     }
+    for (const QString& note : qAsConst(notes))
+        err() << "  " << note << Qt::endl;
     return failures.isEmpty() ? allWritten : someFailed;
 }
 

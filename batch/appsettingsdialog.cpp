@@ -50,8 +50,13 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     backgroundButton = new OrkWidgets::ColorButton(Qt::white, this);
     backgroundButton->setToolTip(tr("Transparent pixels are laid on it in JPEG, BMP and PPM"));
     shortExtensionsBox = new QCheckBox(tr("Short file extensions (.jpg, .tif)"));
+    maxKilobytesBox = new QSpinBox;
+    maxKilobytesBox->setRange(0, 1000000);
+    maxKilobytesBox->setSuffix(tr(" KB"));
+    maxKilobytesBox->setSpecialValueText(tr("No limit"));
     auto* limitsForm = new QFormLayout;
     limitsForm->addRow(tr("Largest photo:"), maxMegapixelsBox);
+    limitsForm->addRow(tr("Largest JPEG file:"), maxKilobytesBox);
     limitsForm->addRow(tr("Background:"), backgroundButton);
     limitsForm->addRow(shortExtensionsBox);
 
@@ -101,6 +106,7 @@ void AppSettingsDialog::slotSaveSettings()
     settings.maxMegapixels = maxMegapixelsBox->value();
     settings.background = backgroundButton->color();
     settings.shortExtensions = shortExtensionsBox->isChecked();
+    settings.maxKilobytes = maxKilobytesBox->value();
     settings.metadata = metadataCombo->currentIndex();
     settings.artist = artistEdit->text();
     settings.copyright = copyrightEdit->text();
@@ -120,6 +126,7 @@ void AppSettingsDialog::slotLoadSettings()
     maxMegapixelsBox->setValue(settings.maxMegapixels);
     backgroundButton->setColor(settings.background);
     shortExtensionsBox->setChecked(settings.shortExtensions);
+    maxKilobytesBox->setValue(settings.maxKilobytes);
     metadataCombo->setCurrentIndex(settings.metadata);
     artistEdit->setText(settings.artist);
     copyrightEdit->setText(settings.copyright);

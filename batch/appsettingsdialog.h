@@ -40,6 +40,7 @@ private:
     QSpinBox* maxMegapixelsBox = nullptr;
     OrkWidgets::ColorButton* backgroundButton = nullptr;
     QCheckBox* shortExtensionsBox = nullptr;
+    QSpinBox* maxKilobytesBox = nullptr;
     QComboBox* metadataCombo = nullptr;
     QLineEdit* artistEdit = nullptr;
     QLineEdit* copyrightEdit = nullptr;

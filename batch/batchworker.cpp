@@ -44,6 +44,8 @@ void BatchWorker::slotDoWork()
         const BatchEngine::Result result = engine.step(i);
         if (!result.image.isNull())
             emit updateInfo(result.image, i, count);
+        if (!result.note.isEmpty())
+            qWarning().noquote() << "Batch:" << paths.at(i) << "-" << result.note;
         if (!result.written())
             qWarning().noquote() << "Batch: not written:" << paths.at(i) << "-" << result.error;
     }

@@ -120,7 +120,7 @@ BatchEngine::Result BatchEngine::step(int index)
     for (int copy = 2; options.keepEveryResult && writtenPaths.contains(target); ++copy)
         target = destination + name + QString(" (%1)").arg(copy) + extension;
     const WriteResult written = write(photo.image, target, photo.metadata);
-    return {std::move(photo.image), target, written.error};
+    return {std::move(photo.image), target, written.error, written.note};
 }
 
 BatchEngine::Photo BatchEngine::process(int index)
@@ -169,19 +169,48 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     if (!file.open(QIODevice::WriteOnly))
         return {false, writeError(file)};
     // Encoded in memory first: the metadata goes into the bytes before any reach the file.
-    QByteArray encoded;
-    QBuffer buffer(&encoded);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, settings.format.toLatin1());
-    writer.setQuality(settings.writerQuality());
     const QImage written =
         settings.keepsTransparency() ? image : laidOn(image, settings.background);
-    if (!writer.write(written)) {
-        file.cancelWriting();
-        return {false, tr("cannot write: %1").arg(writer.errorString())};
+    const auto encode = [&](int quality) {
+        QByteArray encoded;
+        QBuffer buffer(&encoded);
+        buffer.open(QIODevice::WriteOnly);
+        QImageWriter writer(&buffer, settings.format.toLatin1());
+        writer.setQuality(quality);
+        return writer.write(written) ? metadata.embedInto(encoded, image.size(), settings)
+                                     : QByteArray();
+    };
+    // With a size budget the highest quality whose file fits is searched by bisection (seven
+    // encodes at most for a quality up to 127); a photo that fits not even at quality 1 is
+    // written at 1 and said so.
+    const qint64 budget = qint64(settings.maxKilobytes) * 1024;
+    QByteArray bytes;
+    QString note;
+    if (budget > 0 && settings.format == "JPEG") {
+        QByteArray smallest;
+        for (int low = 1, high = settings.quality; low <= high;) {
+            const int middle = (low + high) / 2;
+            const QByteArray tried = encode(middle);
+            if (!tried.isEmpty() && tried.size() <= budget) {
+                bytes = tried;
+                low = middle + 1;
+            } else {
+                smallest = tried;
+                high = middle - 1;
+            }
+        }
+        if (bytes.isEmpty()) {
+            bytes = smallest;
+            note = tr("larger than %1 KB even at quality 1").arg(settings.maxKilobytes);
+        }
+    } else {
+        bytes = encode(settings.writerQuality());
     }
-    buffer.close();
-    if (!writeAll(file, metadata.embedInto(encoded, image.size(), settings))) {
+    if (bytes.isEmpty()) {
+        file.cancelWriting();
+        return {false, tr("cannot write: the %1 writer failed").arg(settings.format)};
+    }
+    if (!writeAll(file, bytes)) {
         const WriteResult failed{false, writeError(file)};
         file.cancelWriting();
         return failed;
@@ -190,7 +219,7 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     if (!file.commit())
         return {false, writeError(file)};
     writtenPaths.insert(absolute);
-    return {true, {}};
+    return {true, {}, note};
 }
 
 BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)

@@ -35,6 +35,8 @@ public:
     {
         bool written = false;
         QString error;
+        // Said of a file written all the same (it is larger than the budget).
+        QString note = {};
     };
 
     // What became of one photo: written to target, or the reason in error.
@@ -43,6 +45,7 @@ public:
         QImage image;
         QString target;
         QString error;
+        QString note = {};
         bool written() const { return error.isEmpty(); }
     };
 

@@ -17,6 +17,7 @@ const char keyArtist[] = "KeyArtist";
 const char keyCopyright[] = "KeyCopyright";
 const char keyBackground[] = "KeyBackground";
 const char keyShortExtensions[] = "KeyShortExtensions";
+const char keyMaxKilobytes[] = "KeyMaxKilobytes";
 
 // A stored number, or the default when the stored text is not one.
 int readInt(const char* key, int defaultValue)
@@ -50,6 +51,7 @@ OutputSettings OutputSettings::load()
     settings.background = background.isValid() ? background : defaults.background;
     settings.shortExtensions =
         OrkTools::AppData::readSetting(keyShortExtensions, defaults.shortExtensions).toBool();
+    settings.maxKilobytes = qMax(0, readInt(keyMaxKilobytes, defaults.maxKilobytes));
     return settings;
 }
 
@@ -67,6 +69,7 @@ void OutputSettings::save() const
     OrkTools::AppData::writeSetting(keyCopyright, copyright);
     OrkTools::AppData::writeSetting(keyBackground, background.name());
     OrkTools::AppData::writeSetting(keyShortExtensions, shortExtensions);
+    OrkTools::AppData::writeSetting(keyMaxKilobytes, maxKilobytes);
 }
 
 QString OutputSettings::extension() const

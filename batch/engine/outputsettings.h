@@ -20,6 +20,7 @@ struct OutputSettings
     // "KeyBackground": what transparent pixels are laid on in a format without transparency.
     QColor background = Qt::white;
     bool shortExtensions = false; // "KeyShortExtensions": ".jpg" and ".tif" instead of the names
+    int maxKilobytes = 0;         // "KeyMaxKilobytes": the largest JPEG file, 0 for no limit
 
     // The stored values; a key that is missing or unreadable gives the default above.
     static OutputSettings load();

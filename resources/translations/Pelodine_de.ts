@@ -74,9 +74,24 @@
         <translation>Kurze Dateiendungen (.jpg, .tif)</translation>
     </message>
     <message>
+        <location line="+3"/>
+        <source> KB</source>
+        <translation> KB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No limit</source>
+        <translation>Keine Grenze</translation>
+    </message>
+    <message>
         <location line="+2"/>
         <source>Largest photo:</source>
         <translation>Größtes Foto:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Largest JPEG file:</source>
+        <translation>Größte JPEG-Datei:</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -215,12 +230,11 @@
     </message>
     <message>
         <location line="-91"/>
-        <location line="+117"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
     <message>
-        <location line="-128"/>
+        <location line="-11"/>
         <source>too large: %1 x %2</source>
         <translation>zu groß: %1 x %2</translation>
     </message>
@@ -255,7 +269,17 @@
         <translation>Schreiben nicht möglich: %1 existiert bereits</translation>
     </message>
     <message>
-        <location line="+37"/>
+        <location line="+38"/>
+        <source>larger than %1 KB even at quality 1</source>
+        <translation>größer als %1 KB selbst bei Qualität 1</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>cannot write: the %1 writer failed</source>
+        <translation>Schreiben nicht möglich: der %1-Schreiber scheiterte</translation>
+    </message>
+    <message>
+        <location line="+21"/>
         <source>unreadable: not a regular file</source>
         <translation>nicht lesbar: keine normale Datei</translation>
     </message>
@@ -1230,6 +1254,11 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
     </message>
     <message>
         <location line="+6"/>
+        <source>Keep every JPEG file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
+        <translation>Jede JPEG-Datei höchstens N Kilobyte groß halten: die höchste Qualität bis --quality, die passt; ein Foto, das selbst bei Qualität 1 nicht passt, wird mit 1 geschrieben und genannt.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
         <source>The colour transparent pixels are laid on in JPEG, BMP and PPM, as a name or #rrggbb. Default: white.</source>
         <translation>Die Farbe, auf die transparente Pixel in JPEG, BMP und PPM gelegt werden, als Name oder #rrggbb. Vorgabe: weiß.</translation>
     </message>
@@ -1314,6 +1343,11 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>die Metadaten müssen keep, strip-location oder strip sein</translation>
     </message>
     <message>
+        <location line="+7"/>
+        <source>the kilobytes must be a whole number of at least 1</source>
+        <translation>die Kilobyte müssen eine ganze Zahl von mindestens 1 sein</translation>
+    </message>
+    <message>
         <location line="+6"/>
         <source>unknown colour %1</source>
         <translation>unbekannte Farbe %1</translation>
@@ -1334,12 +1368,12 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>pelodine-batch: nichts geschrieben; --lenient führt den Ablauf ohne das Ausgelassene aus</translation>
     </message>
     <message>
-        <location line="+64"/>
+        <location line="+69"/>
         <source>see pelodine-batch --help</source>
         <translation>siehe pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-119"/>
+        <location line="-124"/>
         <source>no photos in the folders given</source>
         <translation>keine Fotos in den angegebenen Ordnern</translation>
     </message>
@@ -1349,7 +1383,7 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="+61"/>
+        <location line="+64"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>%1 von %2 Fotos nach %3 geschrieben</translation>
     </message>

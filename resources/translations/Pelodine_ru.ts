@@ -74,9 +74,24 @@
         <translation>Короткие расширения файлов (.jpg, .tif)</translation>
     </message>
     <message>
+        <location line="+3"/>
+        <source> KB</source>
+        <translation> КБ</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No limit</source>
+        <translation>Без ограничения</translation>
+    </message>
+    <message>
         <location line="+2"/>
         <source>Largest photo:</source>
         <translation>Наибольшая фотография:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Largest JPEG file:</source>
+        <translation>Наибольший файл JPEG:</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -215,12 +230,11 @@
     </message>
     <message>
         <location line="-91"/>
-        <location line="+117"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
     <message>
-        <location line="-128"/>
+        <location line="-11"/>
         <source>too large: %1 x %2</source>
         <translation>слишком большое: %1 x %2</translation>
     </message>
@@ -255,7 +269,17 @@
         <translation>запись невозможна: %1 уже существует</translation>
     </message>
     <message>
-        <location line="+37"/>
+        <location line="+38"/>
+        <source>larger than %1 KB even at quality 1</source>
+        <translation>больше %1 КБ даже при качестве 1</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>cannot write: the %1 writer failed</source>
+        <translation>запись невозможна: ошибка записи %1</translation>
+    </message>
+    <message>
+        <location line="+21"/>
         <source>unreadable: not a regular file</source>
         <translation>не читается: не обычный файл</translation>
     </message>
@@ -1230,6 +1254,11 @@ A source photo is never written over; nothing is written through a link, outside
     </message>
     <message>
         <location line="+6"/>
+        <source>Keep every JPEG file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
+        <translation>Держать каждый файл JPEG не больше N килобайт: наибольшее качество до --quality, которое подходит; фотография, которая не подходит даже при качестве 1, записывается с качеством 1 и называется.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
         <source>The colour transparent pixels are laid on in JPEG, BMP and PPM, as a name or #rrggbb. Default: white.</source>
         <translation>Цвет, на который кладутся прозрачные пиксели в JPEG, BMP и PPM, в виде имени или #rrggbb. По умолчанию: белый.</translation>
     </message>
@@ -1314,6 +1343,11 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>метаданные должны быть keep, strip-location или strip</translation>
     </message>
     <message>
+        <location line="+7"/>
+        <source>the kilobytes must be a whole number of at least 1</source>
+        <translation>килобайты должны быть целым числом не меньше 1</translation>
+    </message>
+    <message>
         <location line="+6"/>
         <source>unknown colour %1</source>
         <translation>неизвестный цвет %1</translation>
@@ -1334,12 +1368,12 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>pelodine-batch: ничего не записано; --lenient выполняет поток без пропущенного</translation>
     </message>
     <message>
-        <location line="+64"/>
+        <location line="+69"/>
         <source>see pelodine-batch --help</source>
         <translation>см. pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-119"/>
+        <location line="-124"/>
         <source>no photos in the folders given</source>
         <translation>в указанных папках нет фото</translation>
     </message>
@@ -1349,7 +1383,7 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+61"/>
+        <location line="+64"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>записано %1 из %2 фото в %3</translation>
     </message>

@@ -13,6 +13,8 @@
 #include <QBuffer>
 #include <QColorSpace>
 #include <QDateTime>
+#include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
 
@@ -462,6 +464,29 @@ private slots:
                  0);
         QCOMPARE(fileNames(out), file);
         QCOMPARE(QImage(out + file).pixel(4, 4) & 0xfff0f0f0, pixel);
+    }
+
+    // A 12-megapixel photo under a 200 KB budget: the file fits and wastes at most a tenth of
+    // it; a budget nothing fits is met at quality 1 and said so.
+    void sizeBudget()
+    {
+        QImage photo(4000, 3000, QImage::Format_RGB32);
+        QRandomGenerator random(12);
+        for (int y = 0; y < photo.height(); ++y) {
+            auto* row = reinterpret_cast<QRgb*>(photo.scanLine(y));
+            for (int x = 0; x < photo.width(); ++x)
+                row[x] = qRgb(x / 16, y / 12, (x + y) / 28 + int(random.bounded(24)));
+        }
+        const QString source = TestUtils::writeImage(in + "/big.png", photo);
+        const QString none = TestUtils::writeFile(in + "/none.flow", "<OperationsFlow/>");
+        const QStringList arguments{"--flow", none, "--output", out, source};
+        QCOMPARE(run(QStringList{"--max-kb", "200"} + arguments).exitCode, 0);
+        const qint64 size = QFileInfo(out + "big.jpeg").size();
+        QVERIFY2(size <= 200 * 1024 && size >= 180 * 1024, qPrintable(QString::number(size)));
+        const Outcome tiny = run(QStringList{"--max-kb", "1", "--overwrite"} + arguments);
+        QCOMPARE(tiny.exitCode, 0);
+        QVERIFY2(tiny.err.contains("big.png: larger than 1 KB even at quality 1"),
+                 qPrintable(tiny.err));
     }
 
 private:
