@@ -17,6 +17,7 @@
 #include <QGuiApplication>
 #include <QTextStream>
 
+#include <climits>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -185,6 +186,15 @@ QString readFlow(const QCommandLineParser& parser, Job& job)
     return {};
 }
 
+// The option's value as a whole number from minimum to maximum; false when it is not one.
+bool wholeNumber(const QCommandLineParser& parser, const QString& name, int minimum, int maximum,
+                 int& value)
+{
+    bool ok = false;
+    value = parser.value(name).toInt(&ok);
+    return ok && value >= minimum && value <= maximum;
+}
+
 // The output settings' defaults, or the window's stored settings when asked for, with the
 // options given on top.
 QString readSettings(const QCommandLineParser& parser, Job& job)
@@ -198,12 +208,8 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
                 .arg(parser.value("format"));
         settings.format = format;
     }
-    if (parser.isSet("quality")) {
-        bool ok = false;
-        settings.quality = parser.value("quality").toInt(&ok);
-        if (!ok || settings.quality < 1 || settings.quality > 100)
-            return QCoreApplication::translate("main", "the quality must be 1 to 100");
-    }
+    if (parser.isSet("quality") && !wholeNumber(parser, "quality", 1, 100, settings.quality))
+        return QCoreApplication::translate("main", "the quality must be 1 to 100");
     if (parser.isSet("rename") && parser.isSet("no-rename"))
         return QCoreApplication::translate("main", "--rename and --no-rename exclude each other");
     if (parser.isSet("rename")) {
@@ -220,13 +226,10 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
         if (settings.numbers < 0)
             return QCoreApplication::translate("main", "the numbers must be all, odd or even");
     }
-    if (parser.isSet("max-megapixels")) {
-        bool ok = false;
-        settings.maxMegapixels = parser.value("max-megapixels").toInt(&ok);
-        if (!ok || settings.maxMegapixels < 1)
-            return QCoreApplication::translate("main", "the megapixels must be a whole number "
-                                                       "of at least 1");
-    }
+    if (parser.isSet("max-megapixels") &&
+        !wholeNumber(parser, "max-megapixels", 1, INT_MAX, settings.maxMegapixels))
+        return QCoreApplication::translate("main", "the megapixels must be a whole number "
+                                                   "of at least 1");
     if (parser.isSet("metadata")) {
         settings.metadata =
             QStringList{"keep", "strip-location", "strip"}.indexOf(parser.value("metadata"));
@@ -234,13 +237,9 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
             return QCoreApplication::translate("main", "the metadata must be keep, "
                                                        "strip-location or strip");
     }
-    if (parser.isSet("max-kb")) {
-        bool ok = false;
-        settings.maxKilobytes = parser.value("max-kb").toInt(&ok);
-        if (!ok || settings.maxKilobytes < 1)
-            return QCoreApplication::translate("main", "the kilobytes must be a whole number of "
-                                                       "at least 1");
-    }
+    if (parser.isSet("max-kb") && !wholeNumber(parser, "max-kb", 1, INT_MAX, settings.maxKilobytes))
+        return QCoreApplication::translate("main", "the kilobytes must be a whole number of "
+                                                   "at least 1");
     if (parser.isSet("background")) {
         settings.background = QColor(parser.value("background"));
         if (!settings.background.isValid())
