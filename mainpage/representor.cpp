@@ -6,6 +6,7 @@
 
 #include "basenode.h"
 #include "batchdialog.h"
+#include "batchworker.h"
 #include "commondata.h"
 #include "imagepreview.h"
 #include "imageviewdialog.h"
@@ -45,6 +46,11 @@ Representor::Representor(NodesOptionsPanel* optionsPanel, QWidget* parent)
     connect(imagePreview, &ImagePreview::previous, this, &Representor::previous);
     connect(imageViewDialog, &ImageViewDialog::next, this, &Representor::next);
     connect(imageViewDialog, &ImageViewDialog::previous, this, &Representor::previous);
+    // The worker's signals arrive queued, each photo's before the run's end.
+    BatchWorker* worker = batchDialog->batchWorker();
+    connect(worker, &BatchWorker::photoDone, this,
+            [this](const QString& source, const QString& error) { lastRun.add(source, error); });
+    connect(worker, &BatchWorker::finished, this, [this] { emit batchFinished(lastRun); });
 
     auto* title = new QLabel(tr("<H2><CENTER>Result</CENTER></H2>"), this);
     QPushButton* previewButton = OrkWidgets::newFlatButton("PreviewButton", this, QString(),
@@ -106,6 +112,7 @@ void Representor::slotRunBatchClicked()
     if (photos.isEmpty())
         return;
     batchDialog->startBatch(batchOperations(optionsPanel->flow()), photos);
+    lastRun = {batchDialog->destinationFolder(), photos.size(), 0, {}};
     batchDialog->exec();
 }
 
