@@ -13,6 +13,7 @@
 #include "itemsmodel.h"
 #include "nodesoptionspanel.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -112,6 +113,9 @@ void Representor::slotRunBatchClicked()
     if (photos.isEmpty())
         return;
     batchDialog->startBatch(batchOperations(optionsPanel->flow()), photos);
+    // A stopped run that was still finishing its photo has ended now; what it reported is
+    // told before this run's count begins.
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     lastRun = {batchDialog->destinationFolder(), photos.size(), 0, {}};
     batchDialog->exec();
 }
