@@ -115,9 +115,12 @@ void ContactSheet::place(int index, const Cell& cell)
     painter.setPen(nameColour);
     painter.drawText(nameLine, Qt::AlignHCenter | Qt::AlignTop,
                      metrics.elidedText(cell.fileName, Qt::ElideMiddle, tile.width()));
-    painter.setPen(cell.error.isEmpty() ? sizeColour : errorColour);
-    painter.drawText(nameLine.translated(0, metrics.height()), Qt::AlignHCenter | Qt::AlignTop,
-                     metrics.elidedText(detail, Qt::ElideRight, tile.width()));
+    // A failure's reason is told in the tile already.
+    if (cell.error.isEmpty()) {
+        painter.setPen(sizeColour);
+        painter.drawText(nameLine.translated(0, metrics.height()), Qt::AlignHCenter | Qt::AlignTop,
+                         detail);
+    }
     cellLabels[index] = cell.fileName + "\n" + detail;
 }
 

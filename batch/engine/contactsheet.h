@@ -45,7 +45,7 @@ public:
 
     const QImage& image() const { return sheet; }
     int columns() const { return columnCount; }
-    // Each cell's label as it reads, the name and then the size or the reason, on two lines.
+    // What each cell reads: the name, then the size, or the reason told in its tile.
     QStringList labels() const { return cellLabels; }
 
     // The output format of a file named so, by its extension in either form ("jpg" or "jpeg"
