@@ -219,7 +219,7 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+129"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+134"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
@@ -234,12 +234,12 @@
         <translation>запись невозможна: %1</translation>
     </message>
     <message>
-        <location line="-11"/>
+        <location line="-16"/>
         <source>too large: %1 x %2</source>
         <translation>слишком большое: %1 x %2</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+13"/>
         <source>cannot write: disk full</source>
         <translation>запись невозможна: диск заполнен</translation>
     </message>
@@ -314,7 +314,7 @@
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="-176"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -358,7 +358,7 @@
 <context>
     <name>Creator</name>
     <message>
-        <location filename="../../mainpage/creator.cpp" line="+39"/>
+        <location filename="../../mainpage/creator.cpp" line="+48"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Оригинал&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
@@ -366,6 +366,11 @@
         <location line="+2"/>
         <source>Switch between the photo and the icon list</source>
         <translation>Переключение между фото и списком значков</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Show the photos as the flow makes them</source>
+        <translation>Показать фото такими, какими их делает сценарий</translation>
     </message>
 </context>
 <context>
@@ -638,12 +643,12 @@ Overwrite?</source>
 <context>
     <name>MainPage</name>
     <message>
-        <location filename="../../mainpage/mainpage.cpp" line="+54"/>
+        <location filename="../../mainpage/mainpage.cpp" line="+55"/>
         <source>Output settings</source>
         <translation>Параметры вывода</translation>
     </message>
     <message>
-        <location line="+35"/>
+        <location line="+43"/>
         <source>&amp;File</source>
         <translation>&amp;Файл</translation>
     </message>
@@ -837,7 +842,7 @@ Overwrite?</source>
 <context>
     <name>NodesOptionsPanel</name>
     <message>
-        <location filename="../../nodes/ui/nodesoptionspanel.cpp" line="+45"/>
+        <location filename="../../nodes/ui/nodesoptionspanel.cpp" line="+46"/>
         <source>Build your flow</source>
         <translation>Создайте сценарий</translation>
     </message>
@@ -1000,7 +1005,7 @@ Overwrite?</source>
 <context>
     <name>Representor</name>
     <message>
-        <location filename="../../mainpage/representor.cpp" line="+49"/>
+        <location filename="../../mainpage/representor.cpp" line="+55"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Result&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Результат&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
@@ -1008,6 +1013,39 @@ Overwrite?</source>
         <location line="+2"/>
         <source>Show the result in full size</source>
         <translation>Показать результат в полном размере</translation>
+    </message>
+</context>
+<context>
+    <name>RunSummaryBar</name>
+    <message>
+        <location filename="../../mainpage/runsummarybar.cpp" line="+46"/>
+        <source>Open Folder</source>
+        <translation>Открыть папку</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Photos written: %1 of %2, into %3</source>
+        <translation>Записано фото: %1 из %2, в %3</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Stopped: %1 not processed.</source>
+        <translation>Остановлено: не обработано %1.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Failed: %1</source>
+        <translation>Не удалось: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>and %1 more</source>
+        <translation>и ещё %1</translation>
     </message>
 </context>
 <context>
@@ -1185,7 +1223,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+65"/>
+        <location filename="../../app/batchmain.cpp" line="+69"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1288,7 +1326,12 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>Выводить только необработанные фото.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+2"/>
+        <source>Write no results: run the flow on every photo at the size of the window&apos;s preview and write one sheet of them all into FILE, each labelled with its name and the size the run would write. The format follows FILE&apos;s extension.</source>
+        <translation>Не записывать результаты: выполнить поток для каждого фото в размере предпросмотра окна и записать в FILE один лист со всеми, каждое с подписью: имя и размер, который записал бы запуск. Формат следует расширению FILE.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
         <source>Photos, and folders whose image files (subfolders included) are taken in name order.</source>
         <translation>Фото и папки, файлы изображений которых (включая подпапки) берутся в порядке имён.</translation>
     </message>
@@ -1308,17 +1351,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>%1 — не сценарий: это некорректный XML</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+24"/>
         <source>unknown format %1</source>
         <translation>неизвестный формат %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+5"/>
         <source>the quality must be 1 to 100</source>
         <translation>качество должно быть от 1 до 100</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>--rename and --no-rename exclude each other</source>
         <translation>--rename и --no-rename исключают друг друга</translation>
     </message>
@@ -1333,22 +1376,22 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>номера должны быть all, odd или even</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+4"/>
         <source>the megapixels must be a whole number of at least 1</source>
         <translation>мегапиксели должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>метаданные должны быть keep, strip-location или strip</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>the kilobytes must be a whole number of at least 1</source>
         <translation>килобайты должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unknown colour %1</source>
         <translation>неизвестный цвет %1</translation>
     </message>
@@ -1358,7 +1401,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>расширение должно быть format или short</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+11"/>
+        <source>--contact-sheet writes no results: it does not go with --output</source>
+        <translation>--contact-sheet не записывает результатов: он несовместим с --output</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>the contact sheet&apos;s file must end in the extension of an output format: %1</source>
+        <translation>файл листа просмотра должен иметь расширение формата вывода: %1</translation>
+    </message>
+    <message>
+        <location line="+49"/>
         <source>no photos given</source>
         <translation>фото не указаны</translation>
     </message>
@@ -1368,22 +1421,37 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>pelodine-batch: ничего не записано; --lenient выполняет поток без пропущенного</translation>
     </message>
     <message>
-        <location line="+69"/>
+        <location line="+74"/>
+        <source>contact sheet of %1 photos written into %2</source>
+        <translation>лист просмотра с %1 фото записан в %2</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+5"/>
+        <source>%n photo(s) would fail:</source>
+        <translation>
+            <numerusform>%n фото не удалось бы обработать:</numerusform>
+            <numerusform>%n фото не удалось бы обработать:</numerusform>
+            <numerusform>%n фото не удалось бы обработать:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+35"/>
         <source>see pelodine-batch --help</source>
         <translation>см. pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-124"/>
+        <location line="-169"/>
         <source>no photos in the folders given</source>
         <translation>в указанных папках нет фото</translation>
     </message>
     <message>
         <location line="+17"/>
+        <location line="+100"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+64"/>
+        <location line="-36"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>записано %1 из %2 фото в %3</translation>
     </message>
