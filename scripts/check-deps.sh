@@ -19,7 +19,12 @@ runtime_files=(/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf
     /usr/lib/x86_64-linux-gnu/qt5/plugins/platforms/libqoffscreen.so
     /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/libqtiff.so
     /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/libqwebp.so
-    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/libqsvg.so)
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/libqsvg.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_raw.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_heif.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_avif.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_jxl.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_psd.so)
 
 cmake -S "$root" -B "$build" -DCMAKE_BUILD_TYPE=Release >/dev/null
 

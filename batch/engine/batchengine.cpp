@@ -2,6 +2,7 @@
 
 #include "operationcatalogue.h"
 #include "outputnaming.h"
+#include "photofiles.h"
 #include "threadmessages.h"
 
 #include <QBuffer>
@@ -240,9 +241,15 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
     }
     QImageReader reader(&file);
     reader.setAutoTransform(true);
-    if (reader.format().startsWith("svg"))
-        return {{}, tr("unreadable: a drawing (SVG), not a photo")};
-    const QSize size = reader.size();
+    if (PhotoFiles::isDrawing(reader.format()))
+        return {{},
+                tr("unreadable: a drawing (%1), not a photo")
+                    .arg(QString::fromLatin1(reader.format().toUpper()))};
+    const QSize size = PhotoFiles::storedSize(reader);
+    // A reader that tells sizes but finds none (a RAW or HEIF file it cannot parse) would
+    // decode blind.
+    if (!size.isValid() && reader.supportsOption(QImageIOHandler::Size))
+        return {{}, tr("unreadable: its size cannot be read")};
     if (size.isValid() && qint64(size.width()) * size.height() > pixelBudget)
         return {{}, tooLarge(size)};
     const ThreadMessages decoder;
