@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <functional>
 #include <sys/stat.h>
 #include <sys/types.h>
 
@@ -74,6 +75,29 @@ bool writeAll(QFileDevice& file, const QByteArray& bytes)
             return false;
     }
     return true;
+}
+
+// The encoding at the highest quality up to best whose size is at most budget bytes, searched
+// by bisection: seven encodes at most for a best up to 127. When none fits, fits is false and the
+// encoding at quality 1 comes back; an encoder failure gives empty bytes.
+QByteArray highestQualityWithin(qint64 budget, int best,
+                                const std::function<QByteArray(int)>& encode, bool& fits)
+{
+    QByteArray fitting;
+    QByteArray smallest;
+    for (int low = 1, high = best; low <= high;) {
+        const int middle = (low + high) / 2;
+        const QByteArray tried = encode(middle);
+        if (!tried.isEmpty() && tried.size() <= budget) {
+            fitting = tried;
+            low = middle + 1;
+        } else {
+            smallest = tried;
+            high = middle - 1;
+        }
+    }
+    fits = !fitting.isEmpty();
+    return fits ? fitting : smallest;
 }
 
 } // namespace
@@ -181,29 +205,15 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
         return writer.write(written) ? metadata.embedInto(encoded, image.size(), settings)
                                      : QByteArray();
     };
-    // With a size budget the highest quality whose file fits is searched by bisection (seven
-    // encodes at most for a quality up to 127); a photo that fits not even at quality 1 is
-    // written at 1 and said so.
+    // A photo that fits its budget not even at quality 1 is written at 1 and said so.
     const qint64 budget = qint64(settings.maxKilobytes) * 1024;
     QByteArray bytes;
     QString note;
-    if (budget > 0 && settings.format == "JPEG") {
-        QByteArray smallest;
-        for (int low = 1, high = settings.quality; low <= high;) {
-            const int middle = (low + high) / 2;
-            const QByteArray tried = encode(middle);
-            if (!tried.isEmpty() && tried.size() <= budget) {
-                bytes = tried;
-                low = middle + 1;
-            } else {
-                smallest = tried;
-                high = middle - 1;
-            }
-        }
-        if (bytes.isEmpty()) {
-            bytes = smallest;
+    if (budget > 0 && OutputSettings::takesSizeBudget(settings.format)) {
+        bool fits = false;
+        bytes = highestQualityWithin(budget, settings.quality, encode, fits);
+        if (!fits)
             note = tr("larger than %1 KB even at quality 1").arg(settings.maxKilobytes);
-        }
     } else {
         bytes = encode(settings.writerQuality());
     }

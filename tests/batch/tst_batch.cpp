@@ -14,6 +14,7 @@
 #include <QColorSpace>
 #include <QDateTime>
 #include <QFileInfo>
+#include <QImageWriter>
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
@@ -107,6 +108,69 @@ QMap<QString, QString> metadataOf(const QString& path)
     } catch (const Exiv2::AnyError&) {
     }
     return found;
+}
+
+// Gradients under noise in all three channels, so that each quality gives another file size.
+QImage texturedPhoto(int width, int height)
+{
+    QImage photo(width, height, QImage::Format_RGB32);
+    QRandomGenerator random(12);
+    for (int y = 0; y < height; ++y) {
+        auto* row = reinterpret_cast<QRgb*>(photo.scanLine(y));
+        for (int x = 0; x < width; ++x) {
+            const int noise = int(random.bounded(64));
+            row[x] = qRgb(x / 2 + noise, y + noise / 2, (x + y) / 3 + 64 - noise);
+        }
+    }
+    return photo;
+}
+
+// Each value in size bytes, least significant first.
+QByteArray littleEndian(std::initializer_list<qint64> values, int size)
+{
+    QByteArray bytes;
+    for (const qint64 value : values)
+        for (int i = 0; i < size; ++i)
+            bytes += char(value >> (8 * i));
+    return bytes;
+}
+
+// A linear DNG as a camera's converter writes it, by hand: 16-bit RGB samples, red on the left
+// half and blue on the right, after the TIFF header and one IFD whose entries (tag, type 1 byte,
+// 3 short or 4 long, count, value) all fit in place.
+QByteArray tinyDng(int width, int height)
+{
+    const QByteArray red = littleEndian({50000, 3000, 3000}, 2);
+    const QByteArray blue = littleEndian({3000, 3000, 50000}, 2);
+    QByteArray pixels;
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            pixels += x < width / 2 ? red : blue;
+    // Width, height, bits a sample, linear raw, where the pixels start, samples a pixel, how
+    // many bytes they are, DNG version 1.4.0.0.
+    const qint64 entries[][4] = {{256, 4, 1, width},
+                                 {257, 4, 1, height},
+                                 {258, 3, 1, 16},
+                                 {262, 3, 1, 34892},
+                                 {273, 4, 1, 8 + 2 + 8 * 12 + 4},
+                                 {277, 3, 1, 3},
+                                 {279, 4, 1, pixels.size()},
+                                 {50706, 1, 4, 0x0401}};
+    QByteArray tiff = QByteArray("II*\0", 4) + littleEndian({8}, 4) + littleEndian({8}, 2);
+    for (const auto& entry : entries)
+        tiff += littleEndian({entry[0], entry[1]}, 2) + littleEndian({entry[2]}, 4) +
+                littleEndian({entry[3]}, entry[1] == 3 ? 2 : 4).leftJustified(4, 0);
+    return tiff + littleEndian({0}, 4) + pixels;
+}
+
+QByteArray encoded(const QImage& image, const char* format, int quality = -1)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, format);
+    writer.setQuality(quality);
+    writer.write(image);
+    return buffer.data();
 }
 
 } // namespace
@@ -398,6 +462,9 @@ private slots:
         // An empty value: the key is absent. "nothing": no metadata at all.
         for (const QString format : {"JPEG", "PNG", "TIFF"})
             addRow(qPrintable(format + " keep"), format, "", kept + location);
+        // WebP has no place for IPTC.
+        addRow("WEBP keep", "WEBP", "",
+               QString(kept).replace("Keywords=beach", "Keywords=") + location);
         addRow("remove location", "PNG", "--metadata strip-location", kept + noLocation);
         addRow("remove all", "JPEG", "--metadata strip", "nothing");
         addRow("author over kept", "TIFF", "--artist Bo --copyright (c)_Bo",
@@ -478,6 +545,8 @@ private slots:
                 row[x] = qRgb(x / 16, y / 12, (x + y) / 28 + int(random.bounded(24)));
         }
         const QString source = TestUtils::writeImage(in + "/big.png", photo);
+        // At the usual 90 the file would be far larger: the budget is met well below it.
+        QVERIFY(encoded(photo, "jpeg", 90).size() > 2 * 200 * 1024);
         const QString none = TestUtils::writeFile(in + "/none.flow", "<OperationsFlow/>");
         const QStringList arguments{"--flow", none, "--output", out, source};
         QCOMPARE(run(QStringList{"--max-kb", "200"} + arguments).exitCode, 0);
@@ -487,6 +556,64 @@ private slots:
         QCOMPARE(tiny.exitCode, 0);
         QVERIFY2(tiny.err.contains("big.png: larger than 1 KB even at quality 1"),
                  qPrintable(tiny.err));
+    }
+
+    void newFormats_data()
+    {
+        addColumns<QString, QString>("format", "file");
+        addRow("WEBP", "WEBP", "p.webp");
+        addRow("AVIF", "avif", "p.avif");
+        addRow("JXL", "JXL", "p.jxl");
+        addRow("HEIC", "HEIC", "p.heic");
+    }
+
+    // Written at the quality asked for (less gives a smaller file) and read back whole at the
+    // photo's odd size; where a size budget applies, the file meets it from below.
+    void newFormats()
+    {
+        auto [format, file] = fetch<QString, QString>("format", "file");
+        const QString source = TestUtils::writeImage(in + "/p.png", texturedPhoto(255, 191));
+        const QString none = TestUtils::writeFile(in + "/none.flow", "<OperationsFlow/>");
+        const auto sizeWith = [&](const QStringList& options) {
+            const QStringList arguments{"--format", format,     "--overwrite", "--flow",
+                                        none,       "--output", out,           source};
+            const bool read = run(options + arguments).exitCode == 0 &&
+                              QImage(out + file).size() == QSize(255, 191);
+            return read ? QFileInfo(out + file).size() : -1;
+        };
+        const qint64 high = sizeWith({"--quality", "90"});
+        const qint64 low = sizeWith({"--quality", "20"});
+        QVERIFY2(low > 0 && low < high, qPrintable(QString("%1 %2").arg(low).arg(high)));
+        if (file != "p.heic") {
+            const qint64 fitted = sizeWith({"--max-kb", "6"});
+            QVERIFY2(fitted > 3 * 1024 && fitted <= 6 * 1024, qPrintable(QString::number(fitted)));
+        }
+        QCOMPARE(fileNames(out), file);
+    }
+
+    void newReaders_data()
+    {
+        addColumns<QString, QByteArray>("file", "bytes");
+        const QImage halves = TestUtils::halvesPicture(64, 48);
+        addRow("camera RAW", "p.dng", tinyDng(64, 48));
+        addRow("HEIC", "p.heic", encoded(halves, "heic"));
+        addRow("AVIF", "p.avif", encoded(halves, "avif"));
+        addRow("JPEG XL", "p.jxl", encoded(halves, "jxl"));
+    }
+
+    // Read through the engine at their size and the right way round (red left, blue right);
+    // the size comes from the header, so the pixel budget is met before decoding.
+    void newReaders()
+    {
+        auto [file, bytes] = fetch<QString, QByteArray>("file", "bytes");
+        const QString path = TestUtils::writeFile(in + "/" + file, bytes);
+        const BatchEngine::Photo photo = BatchEngine::load(path, 64 * 48);
+        QCOMPARE(photo.error, QString());
+        QCOMPARE(photo.image.size(), QSize(64, 48));
+        const QRgb left = photo.image.pixel(2, 24);
+        const QRgb right = photo.image.pixel(61, 24);
+        QVERIFY(qRed(left) > 2 * qBlue(left) && qBlue(right) > 2 * qRed(right));
+        QCOMPARE(BatchEngine::load(path, 64 * 48 - 1).error, QString("too large: 64 x 48"));
     }
 
 private:
