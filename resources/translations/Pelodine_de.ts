@@ -90,11 +90,16 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Largest JPEG file:</source>
-        <translation>Größte JPEG-Datei:</translation>
+        <source>For JPEG, WEBP, AVIF and JXL: the highest quality whose file fits</source>
+        <translation>Für JPEG, WEBP, AVIF und JXL: die höchste Qualität, deren Datei passt</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
+        <source>Largest file:</source>
+        <translation>Größte Datei:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Background:</source>
         <translation>Hintergrund:</translation>
     </message>
@@ -219,7 +224,7 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+129"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+154"/>
         <source>no photo at position %1</source>
         <translation>kein Foto an Position %1</translation>
     </message>
@@ -229,7 +234,7 @@
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-114"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
@@ -249,7 +254,7 @@
         <translation>Schreiben nicht möglich: keine Berechtigung</translation>
     </message>
     <message>
-        <location line="+55"/>
+        <location line="+78"/>
         <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
         <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
     </message>
@@ -269,12 +274,12 @@
         <translation>Schreiben nicht möglich: %1 existiert bereits</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+25"/>
         <source>larger than %1 KB even at quality 1</source>
         <translation>größer als %1 KB selbst bei Qualität 1</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>cannot write: the %1 writer failed</source>
         <translation>Schreiben nicht möglich: der %1-Schreiber scheiterte</translation>
     </message>
@@ -294,12 +299,7 @@
         <translation>nicht lesbar: %1</translation>
     </message>
     <message>
-        <location line="+5"/>
-        <source>unreadable: a drawing (SVG), not a photo</source>
-        <translation>nicht lesbar: eine Zeichnung (SVG), kein Foto</translation>
-    </message>
-    <message>
-        <location line="+7"/>
+        <location line="+18"/>
         <source>damaged: %1</source>
         <translation>beschädigt: %1</translation>
     </message>
@@ -309,12 +309,22 @@
         <translation>nicht lesbar: kein Foto, das dieses Programm lesen kann</translation>
     </message>
     <message>
-        <location line="-24"/>
+        <location line="-30"/>
         <source>unreadable: no such file</source>
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="+16"/>
+        <source>unreadable: a drawing (%1), not a photo</source>
+        <translation>nicht lesbar: eine Zeichnung (%1), kein Foto</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>unreadable: its size cannot be read</source>
+        <translation>nicht lesbar: seine Größe lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <location line="+41"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -895,7 +905,7 @@ Overwrite?</source>
         <translation>Fotos (%1);;Alle Dateien (*)</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+16"/>
         <source>Add Folder</source>
         <translation>Ordner hinzufügen</translation>
     </message>
@@ -1185,7 +1195,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+65"/>
+        <location filename="../../app/batchmain.cpp" line="+66"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1213,12 +1223,7 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>Das Ausgabeformat; die Dateiendung ist sein Name in Kleinbuchstaben.</translation>
     </message>
     <message>
-        <location line="+3"/>
-        <source>The JPEG quality.</source>
-        <translation>Die JPEG-Qualität.</translation>
-    </message>
-    <message>
-        <location line="+2"/>
+        <location line="+7"/>
         <source>Name the files NAME followed by a number instead of the photo&apos;s name.</source>
         <translation>Die Dateien NAME mit angehängter Nummer statt nach dem Foto benennen.</translation>
     </message>
@@ -1253,12 +1258,7 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>Was die Ergebnisse von EXIF, IPTC und XMP der Fotos behalten: alles, alles außer dem Aufnahmeort (GPS- und Ortsfelder) oder nichts. Vorgabe: keep.</translation>
     </message>
     <message>
-        <location line="+6"/>
-        <source>Keep every JPEG file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
-        <translation>Jede JPEG-Datei höchstens N Kilobyte groß halten: die höchste Qualität bis --quality, die passt; ein Foto, das selbst bei Qualität 1 nicht passt, wird mit 1 geschrieben und genannt.</translation>
-    </message>
-    <message>
-        <location line="+6"/>
+        <location line="+12"/>
         <source>The colour transparent pixels are laid on in JPEG, BMP and PPM, as a name or #rrggbb. Default: white.</source>
         <translation>Die Farbe, auf die transparente Pixel in JPEG, BMP und PPM gelegt werden, als Name oder #rrggbb. Vorgabe: weiß.</translation>
     </message>
@@ -1308,17 +1308,17 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>%1 ist kein Ablauf: kein wohlgeformtes XML</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+24"/>
         <source>unknown format %1</source>
         <translation>unbekanntes Format %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+5"/>
         <source>the quality must be 1 to 100</source>
         <translation>die Qualität muss zwischen 1 und 100 liegen</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>--rename and --no-rename exclude each other</source>
         <translation>--rename und --no-rename schließen einander aus</translation>
     </message>
@@ -1333,22 +1333,22 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>die Nummern müssen all, odd oder even sein</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+4"/>
         <source>the megapixels must be a whole number of at least 1</source>
         <translation>die Megapixel müssen eine ganze Zahl von mindestens 1 sein</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>die Metadaten müssen keep, strip-location oder strip sein</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>the kilobytes must be a whole number of at least 1</source>
         <translation>die Kilobyte müssen eine ganze Zahl von mindestens 1 sein</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unknown colour %1</source>
         <translation>unbekannte Farbe %1</translation>
     </message>
@@ -1378,7 +1378,17 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>keine Fotos in den angegebenen Ordnern</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="-176"/>
+        <source>The quality of JPEG, WEBP, AVIF, JXL and HEIC.</source>
+        <translation>Die Qualität von JPEG, WEBP, AVIF, JXL und HEIC.</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Keep every JPEG, WEBP, AVIF or JXL file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
+        <translation>Jede JPEG-, WEBP-, AVIF- oder JXL-Datei höchstens N Kilobyte groß halten: die höchste Qualität bis --quality, die passt; ein Foto, das selbst bei Qualität 1 nicht passt, wird mit 1 geschrieben und genannt.</translation>
+    </message>
+    <message>
+        <location line="+161"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>

@@ -90,11 +90,16 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Largest JPEG file:</source>
-        <translation>Наибольший файл JPEG:</translation>
+        <source>For JPEG, WEBP, AVIF and JXL: the highest quality whose file fits</source>
+        <translation>Для JPEG, WEBP, AVIF и JXL: наибольшее качество, при котором файл помещается</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
+        <source>Largest file:</source>
+        <translation>Наибольший файл:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Background:</source>
         <translation>Фон:</translation>
     </message>
@@ -219,7 +224,7 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+129"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+154"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
@@ -229,7 +234,7 @@
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-114"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
@@ -249,7 +254,7 @@
         <translation>запись невозможна: нет прав доступа</translation>
     </message>
     <message>
-        <location line="+55"/>
+        <location line="+78"/>
         <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
         <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
     </message>
@@ -269,12 +274,12 @@
         <translation>запись невозможна: %1 уже существует</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+25"/>
         <source>larger than %1 KB even at quality 1</source>
         <translation>больше %1 КБ даже при качестве 1</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>cannot write: the %1 writer failed</source>
         <translation>запись невозможна: ошибка записи %1</translation>
     </message>
@@ -294,12 +299,7 @@
         <translation>не читается: %1</translation>
     </message>
     <message>
-        <location line="+5"/>
-        <source>unreadable: a drawing (SVG), not a photo</source>
-        <translation>не читается: рисунок (SVG), а не фотография</translation>
-    </message>
-    <message>
-        <location line="+7"/>
+        <location line="+18"/>
         <source>damaged: %1</source>
         <translation>повреждён: %1</translation>
     </message>
@@ -309,12 +309,22 @@
         <translation>не читается: это не фото, которое может прочитать программа</translation>
     </message>
     <message>
-        <location line="-24"/>
+        <location line="-30"/>
         <source>unreadable: no such file</source>
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="+16"/>
+        <source>unreadable: a drawing (%1), not a photo</source>
+        <translation>не читается: рисунок (%1), а не фотография</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>unreadable: its size cannot be read</source>
+        <translation>не читается: не удаётся прочитать её размер</translation>
+    </message>
+    <message>
+        <location line="+41"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -895,7 +905,7 @@ Overwrite?</source>
         <translation>Фото (%1);;Все файлы (*)</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+16"/>
         <source>Add Folder</source>
         <translation>Добавить папку</translation>
     </message>
@@ -1185,7 +1195,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+65"/>
+        <location filename="../../app/batchmain.cpp" line="+66"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1213,12 +1223,7 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>Формат вывода; расширение файла — его имя строчными буквами.</translation>
     </message>
     <message>
-        <location line="+3"/>
-        <source>The JPEG quality.</source>
-        <translation>Качество JPEG.</translation>
-    </message>
-    <message>
-        <location line="+2"/>
+        <location line="+7"/>
         <source>Name the files NAME followed by a number instead of the photo&apos;s name.</source>
         <translation>Называть файлы NAME с номером вместо имени фото.</translation>
     </message>
@@ -1253,12 +1258,7 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>Что результаты сохраняют из EXIF, IPTC и XMP фотографий: всё, всё кроме места съёмки (GPS и поля местоположения) или ничего. По умолчанию: keep.</translation>
     </message>
     <message>
-        <location line="+6"/>
-        <source>Keep every JPEG file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
-        <translation>Держать каждый файл JPEG не больше N килобайт: наибольшее качество до --quality, которое подходит; фотография, которая не подходит даже при качестве 1, записывается с качеством 1 и называется.</translation>
-    </message>
-    <message>
-        <location line="+6"/>
+        <location line="+12"/>
         <source>The colour transparent pixels are laid on in JPEG, BMP and PPM, as a name or #rrggbb. Default: white.</source>
         <translation>Цвет, на который кладутся прозрачные пиксели в JPEG, BMP и PPM, в виде имени или #rrggbb. По умолчанию: белый.</translation>
     </message>
@@ -1308,17 +1308,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>%1 — не сценарий: это некорректный XML</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+24"/>
         <source>unknown format %1</source>
         <translation>неизвестный формат %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+5"/>
         <source>the quality must be 1 to 100</source>
         <translation>качество должно быть от 1 до 100</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>--rename and --no-rename exclude each other</source>
         <translation>--rename и --no-rename исключают друг друга</translation>
     </message>
@@ -1333,22 +1333,22 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>номера должны быть all, odd или even</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+4"/>
         <source>the megapixels must be a whole number of at least 1</source>
         <translation>мегапиксели должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>метаданные должны быть keep, strip-location или strip</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>the kilobytes must be a whole number of at least 1</source>
         <translation>килобайты должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unknown colour %1</source>
         <translation>неизвестный цвет %1</translation>
     </message>
@@ -1378,7 +1378,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>в указанных папках нет фото</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="-176"/>
+        <source>The quality of JPEG, WEBP, AVIF, JXL and HEIC.</source>
+        <translation>Качество JPEG, WEBP, AVIF, JXL и HEIC.</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Keep every JPEG, WEBP, AVIF or JXL file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
+        <translation>Держать каждый файл JPEG, WEBP, AVIF или JXL не больше N килобайт: наибольшее качество до --quality, которое подходит; фотография, которая не подходит даже при качестве 1, записывается с качеством 1 и называется.</translation>
+    </message>
+    <message>
+        <location line="+161"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
