@@ -97,11 +97,11 @@ public:
     // undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged and
     // not taken, whatever it decoded. SVG drawings are not photos: they may read local files.
     static Photo load(const QString& path, qint64 pixelBudget);
-    // The operations in order through their headless forms. An image an operation leaves
-    // empty is reported instead of being handed to the next one, and one that would grow past
-    // pixelBudget is refused before it is made.
+    // The operations in order through their headless forms, for the photo described. An image
+    // an operation leaves empty is reported instead of being handed to the next one, and one
+    // that would grow past pixelBudget is refused before it is made.
     static Photo apply(QImage image, const QVector<PreparedOperation>& operations,
-                       qint64 pixelBudget);
+                       qint64 pixelBudget, const PhotoContext& photo = {});
     // The operations with their parameters read once (a logo is decoded once per run).
     static QVector<PreparedOperation> prepare(const BatchOperations& operations);
 

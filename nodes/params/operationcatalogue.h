@@ -2,6 +2,8 @@
 // parameters become the parameter text a node of the window would write after reading them.
 #pragma once
 
+#include "textmacros.h"
+
 #include <QDomDocument>
 #include <QDomElement>
 #include <QImage>
@@ -14,7 +16,8 @@
 QStringList operationNames();
 
 // An operation with its parameter text read once, for a run over many images: apply gives the
-// image through the operation's headless form; resultSize says, without touching pixels, how
+// image through the operation's headless form, for the photo described (what a watermark's
+// text macros name); resultSize says, without touching pixels, how
 // large the result can be: the exact size for the operations that add pixels (Frame, Resize),
 // the size given for every other (none of them adds pixels), so that a run can refuse a result
 // too large before it is made. Both are safe on any thread; an unknown name leaves images and
@@ -22,12 +25,13 @@ QStringList operationNames();
 struct PreparedOperation
 {
     QString name;
-    std::function<QImage(QImage)> apply;
+    std::function<QImage(QImage, const PhotoContext&)> apply;
     std::function<QSize(const QSize&)> resultSize;
 };
 PreparedOperation prepareOperation(const QString& name, const QString& parametersText);
 
-// The named operation applied by its headless form to image with the stored parameter text.
+// The named operation applied by its headless form to image with the stored parameter text, for
+// no photo in particular (text macros name nothing).
 QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText);
 
 // A node of the named operation as the window makes it, after reading parameters: whether it

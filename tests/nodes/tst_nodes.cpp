@@ -29,6 +29,7 @@
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -39,6 +40,7 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QTranslator>
 #include <QtConcurrent/QtConcurrentRun>
 
@@ -384,8 +386,12 @@ private slots:
         }
         for (QAbstractButton* button : node->findChildren<QAbstractButton*>()) {
             auto* colorButton = qobject_cast<OrkWidgets::ColorButton*>(button);
+            auto* menuButton = qobject_cast<QToolButton*>(button);
+            const QAction* opener = menuButton ? menuButton->defaultAction() : nullptr;
             // Browsing ends in openLogoFile, which has a test of its own.
-            if (colorButton)
+            if (opener && opener->menu())
+                check(button, [&] { opener->menu()->actions().constFirst()->trigger(); });
+            else if (colorButton)
                 check(button, [&] { colorButton->setColor(QColor("#123456")); });
             else if (button->objectName() != "WMRBrowseButton")
                 check(button, [&] { button->click(); });
