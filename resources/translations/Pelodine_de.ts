@@ -224,12 +224,12 @@
         <translation>kein Foto an Position %1</translation>
     </message>
     <message>
-        <location line="+26"/>
+        <location line="+30"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-95"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
@@ -254,7 +254,7 @@
         <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+48"/>
         <source>cannot write: %1 is a link</source>
         <translation>Schreiben nicht möglich: %1 ist eine Verknüpfung</translation>
     </message>
@@ -371,17 +371,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+84"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+86"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Fotos hierher ziehen&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="-64"/>
+        <location line="-65"/>
         <source>Click to open the photos</source>
         <translation>Klicken, um Fotos zu öffnen</translation>
     </message>
     <message>
-        <location line="+69"/>
+        <location line="+70"/>
         <source>Open the photos</source>
         <translation>Fotos öffnen</translation>
     </message>
@@ -756,7 +756,7 @@ Overwrite?</source>
         <translation>Vignettierung</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.h" line="+19"/>
+        <location filename="../../nodes/params/watermarkoperation.h" line="+20"/>
         <source>Watermark</source>
         <translation>Wasserzeichen</translation>
     </message>
@@ -1047,7 +1047,7 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+93"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+145"/>
         <source>Fewer options</source>
         <translation>Weniger Optionen</translation>
     </message>
@@ -1092,7 +1092,72 @@ Overwrite?</source>
         <translation>Y: </translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+1"/>
+        <location filename="../../nodes/wmrnode.cpp" line="-83"/>
+        <source>Photo name</source>
+        <translation>Fotoname</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date taken</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date and time taken</source>
+        <translation>Aufnahmedatum und -zeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Year taken</source>
+        <translation>Aufnahmejahr</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Artist</source>
+        <translation>Urheber</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Photo number</source>
+        <translation>Nummer des Fotos</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Number of photos</source>
+        <translation>Anzahl der Fotos</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright sign</source>
+        <translation>Copyright-Zeichen</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Insert a detail of each photo</source>
+        <translation>Eine Angabe zu jedem Foto einfügen</translation>
+    </message>
+    <message>
+        <location line="+45"/>
         <source>Vertical offset in percent of the height</source>
         <translation>Senkrechter Versatz in Prozent der Höhe</translation>
     </message>
@@ -1162,7 +1227,7 @@ Overwrite?</source>
         <translation>Strecken:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+58"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+59"/>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
@@ -1172,7 +1237,7 @@ Overwrite?</source>
         <translation>Die Bilddatei kann nicht geöffnet werden:</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+24"/>
         <source>Open the watermark file</source>
         <translation>Wasserzeichen-Datei öffnen</translation>
     </message>
@@ -1185,7 +1250,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+65"/>
+        <location filename="../../app/batchmain.cpp" line="+66"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1308,17 +1373,17 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>%1 ist kein Ablauf: kein wohlgeformtes XML</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+24"/>
         <source>unknown format %1</source>
         <translation>unbekanntes Format %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+5"/>
         <source>the quality must be 1 to 100</source>
         <translation>die Qualität muss zwischen 1 und 100 liegen</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>--rename and --no-rename exclude each other</source>
         <translation>--rename und --no-rename schließen einander aus</translation>
     </message>
@@ -1333,22 +1398,22 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>die Nummern müssen all, odd oder even sein</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+4"/>
         <source>the megapixels must be a whole number of at least 1</source>
         <translation>die Megapixel müssen eine ganze Zahl von mindestens 1 sein</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>die Metadaten müssen keep, strip-location oder strip sein</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>the kilobytes must be a whole number of at least 1</source>
         <translation>die Kilobyte müssen eine ganze Zahl von mindestens 1 sein</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unknown colour %1</source>
         <translation>unbekannte Farbe %1</translation>
     </message>

@@ -224,12 +224,12 @@
         <translation>нет фото в позиции %1</translation>
     </message>
     <message>
-        <location line="+26"/>
+        <location line="+30"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-95"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
@@ -254,7 +254,7 @@
         <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+48"/>
         <source>cannot write: %1 is a link</source>
         <translation>запись невозможна: %1 — ссылка</translation>
     </message>
@@ -371,17 +371,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+84"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+86"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Перетащите фото сюда&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="-64"/>
+        <location line="-65"/>
         <source>Click to open the photos</source>
         <translation>Нажмите, чтобы открыть фото</translation>
     </message>
     <message>
-        <location line="+69"/>
+        <location line="+70"/>
         <source>Open the photos</source>
         <translation>Открыть фото</translation>
     </message>
@@ -756,7 +756,7 @@ Overwrite?</source>
         <translation>Виньетирование</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.h" line="+19"/>
+        <location filename="../../nodes/params/watermarkoperation.h" line="+20"/>
         <source>Watermark</source>
         <translation>Водяной знак</translation>
     </message>
@@ -1047,7 +1047,7 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+93"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+145"/>
         <source>Fewer options</source>
         <translation>Меньше параметров</translation>
     </message>
@@ -1092,7 +1092,72 @@ Overwrite?</source>
         <translation>Y: </translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+1"/>
+        <location filename="../../nodes/wmrnode.cpp" line="-83"/>
+        <source>Photo name</source>
+        <translation>Имя фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>File name</source>
+        <translation>Имя файла</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date taken</source>
+        <translation>Дата съёмки</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date and time taken</source>
+        <translation>Дата и время съёмки</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Year taken</source>
+        <translation>Год съёмки</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera</source>
+        <translation>Камера</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Lens</source>
+        <translation>Объектив</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Artist</source>
+        <translation>Автор</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright</source>
+        <translation>Авторское право</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Photo number</source>
+        <translation>Номер фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Number of photos</source>
+        <translation>Число фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright sign</source>
+        <translation>Знак авторского права</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Insert a detail of each photo</source>
+        <translation>Вставить сведения о каждом фото</translation>
+    </message>
+    <message>
+        <location line="+45"/>
         <source>Vertical offset in percent of the height</source>
         <translation>Смещение по вертикали в процентах от высоты</translation>
     </message>
@@ -1162,7 +1227,7 @@ Overwrite?</source>
         <translation>Растянуть:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+58"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+59"/>
         <source>Warning</source>
         <translation>Предупреждение</translation>
     </message>
@@ -1172,7 +1237,7 @@ Overwrite?</source>
         <translation>Не удаётся открыть файл изображения:</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+24"/>
         <source>Open the watermark file</source>
         <translation>Открыть файл водяного знака</translation>
     </message>
@@ -1185,7 +1250,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+65"/>
+        <location filename="../../app/batchmain.cpp" line="+66"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1308,17 +1373,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>%1 — не сценарий: это некорректный XML</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+24"/>
         <source>unknown format %1</source>
         <translation>неизвестный формат %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+5"/>
         <source>the quality must be 1 to 100</source>
         <translation>качество должно быть от 1 до 100</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>--rename and --no-rename exclude each other</source>
         <translation>--rename и --no-rename исключают друг друга</translation>
     </message>
@@ -1333,22 +1398,22 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>номера должны быть all, odd или even</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+4"/>
         <source>the megapixels must be a whole number of at least 1</source>
         <translation>мегапиксели должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>метаданные должны быть keep, strip-location или strip</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>the kilobytes must be a whole number of at least 1</source>
         <translation>килобайты должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unknown colour %1</source>
         <translation>неизвестный цвет %1</translation>
     </message>

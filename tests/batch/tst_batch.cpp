@@ -89,6 +89,18 @@ QString writeCameraPhoto(const QString& path, uint16_t orientation)
     return path;
 }
 
+// A 40 x 30 JPEG at path carrying the EXIF texts of "key=value|key=value".
+QString writeTaggedPhoto(const QString& path, const QString& tags)
+{
+    TestUtils::writeImage(path, TestUtils::filledImage(40, 30, 0xff4080c0));
+    auto photo = Exiv2::ImageFactory::open(path.toStdString());
+    photo->readMetadata();
+    for (const auto& [key, value] : TestUtils::keyValues(tags))
+        photo->exifData()[key.toStdString()] = value.toStdString();
+    photo->writeMetadata();
+    return path;
+}
+
 // Every EXIF, IPTC and XMP key of the file with its value as text; none when Exiv2 cannot
 // read the file.
 QMap<QString, QString> metadataOf(const QString& path)
@@ -487,6 +499,91 @@ private slots:
         QCOMPARE(tiny.exitCode, 0);
         QVERIFY2(tiny.err.contains("big.png: larger than 1 KB even at quality 1"),
                  qPrintable(tiny.err));
+    }
+
+    void textMacros_data()
+    {
+        addColumns<QString, QString>("text", "expanded");
+        addRow("no braces", "Watermark \u00a9 2024", "Watermark \u00a9 2024");
+        addRow("names", "{name} {file}", "beach.2 beach.2.jpg");
+        addRow("dates", "{date}|{year}|{date:d.M.yy h:mm}|{date:}",
+               "2024-05-01|2024|1.5.24 9:07|2024-05-01");
+        addRow("metadata", "{camera}/{lens}/{artist}/{copyright}", "Cam X/L 50/Ann/(c) Ann");
+        addRow("position", "{n} of {count}", "3 of 12");
+        addRow("doubled braces", "{{name}} }}{{ {{{n}}}", "{name} }{ {3}");
+        addRow("not macros", "{Name} {unknown} { n} {n {} } {", "{Name} {unknown} { n} {n {} } {");
+    }
+
+    // Each macro by what it names of a photo described by hand.
+    void textMacros()
+    {
+        auto [text, expanded] = fetch<QString, QString>("text", "expanded");
+        PhotoContext photo;
+        photo.name = "beach.2";
+        photo.file = "beach.2.jpg";
+        photo.date = QDateTime(QDate(2024, 5, 1), QTime(9, 7, 30));
+        photo.camera = "Cam X";
+        photo.lens = "L 50";
+        photo.artist = "Ann";
+        photo.copyright = "(c) Ann";
+        photo.number = 3;
+        photo.count = 12;
+        QCOMPARE(TextMacros::expand(text, photo), expanded);
+    }
+
+    // What a photo says of itself: its EXIF, else nothing but its file and the file's time.
+    void photoDetails()
+    {
+        const QString all = "{name}|{file}|{date:yyyy-MM-dd HH:mm:ss}|{camera}|{lens}|{artist}|"
+                            "{copyright}";
+        const auto details = [&all](const QString& path) {
+            return TextMacros::expand(all, PhotoMetadata::read(path).describe(path));
+        };
+        const QString canon = writeTaggedPhoto(
+            in + "/IMG_1.jpg", "Exif.Image.Make=Canon|Exif.Image.Model=Canon EOS R5|"
+                               "Exif.Photo.LensModel=RF50mm F1.8|Exif.Image.Artist=Ann|"
+                               "Exif.Image.Copyright=(c) Ann|"
+                               "Exif.Photo.DateTimeOriginal=2024:05:01 10:20:30");
+        QCOMPARE(
+            details(canon),
+            QString("IMG_1|IMG_1.jpg|2024-05-01 10:20:30|Canon EOS R5|RF50mm F1.8|Ann|(c) Ann"));
+        // The make said once, also where the model repeats only its first word.
+        const QString nikon = writeTaggedPhoto(
+            in + "/n.jpg", "Exif.Image.Make=NIKON CORPORATION|Exif.Image.Model=NIKON D750");
+        const QString sony =
+            writeTaggedPhoto(in + "/s.jpg", "Exif.Image.Make=SONY|Exif.Image.Model=ILCE-7M3");
+        QCOMPARE(details(nikon).section('|', 3, 3), QString("NIKON D750"));
+        QCOMPARE(details(sony).section('|', 3, 3), QString("SONY ILCE-7M3"));
+
+        const QString plain = photo("plain.png");
+        QFile file(plain);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime(QDate(2021, 3, 4), QTime(5, 6, 7)),
+                                 QFileDevice::FileModificationTime));
+        file.close();
+        QCOMPARE(details(plain), QString("plain|plain.png|2021-03-04 05:06:07||||"));
+    }
+
+    // A batch draws each photo's own text: what the same watermark draws with the text
+    // written out by hand.
+    void macrosPerPhoto()
+    {
+        const QString keys = "<Size>80</Size><Position>Middle</Position><Font>DejaVu Sans</Font>"
+                             "<Transparency>0</Transparency>";
+        const auto watermark = [&keys](const QString& text) {
+            return "<Parameters><Active>yes</Active><Text>" + text + "</Text>" + keys +
+                   "</Parameters>";
+        };
+        const QStringList sources = {photo("a.png"), photo("b.png"), photo("c.png")};
+        BatchEngine engine(sources, {{"Watermark", watermark("{n}/{count} {file}")}}, {}, out, {});
+        QVector<QImage> drawn;
+        for (const char* text : {"1/3 a.png", "2/3 b.png", "3/3 c.png"}) {
+            drawn << engine.process(drawn.size()).image;
+            QCOMPARE_IMAGES(drawn.last(),
+                            applyOperation("Watermark", TestUtils::filledImage(40, 30, 0xff203040),
+                                           watermark(text)));
+        }
+        QVERIFY(drawn.at(0) != drawn.at(1) && drawn.at(1) != drawn.at(2));
     }
 
 private:

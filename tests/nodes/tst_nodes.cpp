@@ -603,6 +603,37 @@ private slots:
         QVERIFY(node.parametersText().contains(dataUri(bmp, "PNG")));
     }
 
+    // The preview draws the current photo's details; the node stores the macros.
+    void textMacrosInThePreview()
+    {
+        PhotoContext& current = CommonData::instance()->photo;
+        const auto restore = qScopeGuard([&current, before = current] { current = before; });
+        current.number = 2;
+        current.count = 5;
+        WMRNode node;
+        load(&node, "Text={n} of {count}|Size=80|Transparency=0");
+        const QString stored = node.parametersText();
+        QVERIFY(stored.contains("<Text>{n} of {count}</Text>"));
+        QImage image = photo();
+        node.process(image);
+        QCOMPARE_IMAGES(image, applyOperation("Watermark", photo(),
+                                              QString(stored).replace("{n} of {count}", "2 of 5")));
+        QCOMPARE(node.parametersText(), stored);
+
+        // The menu puts what it names where the cursor is.
+        QLineEdit* edit = nullptr;
+        for (QLineEdit* each : node.findChildren<QLineEdit*>())
+            edit = each->text() == "{n} of {count}" ? each : edit;
+        QVERIFY(edit);
+        edit->setText("AB");
+        edit->setCursorPosition(1);
+        const auto* menu = node.findChild<QMenu*>("WMRInsertMenu");
+        for (QAction* action : menu->actions())
+            if (action->text().endsWith("{year}") || action->text().endsWith("\u00a9"))
+                action->trigger();
+        QCOMPARE(edit->text(), QString("A{year}\u00a9B"));
+    }
+
     // A new node stores no logo data; the headless form then draws the built-in logo.
     void headlessBuiltInLogo()
     {
