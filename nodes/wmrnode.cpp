@@ -92,7 +92,7 @@ const std::pair<const char*, const char*> textInserts[] = {
 };
 
 // A button at the end of edit whose menu puts each of textInserts into it at the cursor.
-QAction* addInsertMenu(QLineEdit* edit)
+void addInsertMenu(QLineEdit* edit)
 {
     auto* menu = new QMenu(edit);
     menu->setObjectName("WMRInsertMenu");
@@ -118,11 +118,8 @@ QAction* addInsertMenu(QLineEdit* edit)
     edit->setMinimumWidth(leastWidth);
     opener->setToolTip(WMRNode::tr("Insert a detail of each photo"));
     opener->setMenu(menu);
-    QObject::connect(opener, &QAction::triggered, edit, [edit, menu] {
-        menu->popup(edit->mapToGlobal(edit->rect().bottomRight()) -
-                    QPoint(menu->sizeHint().width(), 0));
-    });
-    return opener;
+    QObject::connect(opener, &QAction::triggered, edit,
+                     [edit, menu] { menu->popup(edit->mapToGlobal(edit->rect().bottomLeft())); });
 }
 
 QSpinBox* newOffsetBox(const Param<WMRValues>& key, const QString& toolTip, QWidget* parent)

@@ -1047,7 +1047,7 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+145"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+142"/>
         <source>Fewer options</source>
         <translation>Меньше параметров</translation>
     </message>
@@ -1092,7 +1092,7 @@ Overwrite?</source>
         <translation>Y: </translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="-83"/>
+        <location filename="../../nodes/wmrnode.cpp" line="-80"/>
         <source>Photo name</source>
         <translation>Имя фото</translation>
     </message>
@@ -1157,7 +1157,7 @@ Overwrite?</source>
         <translation>Вставить сведения о каждом фото</translation>
     </message>
     <message>
-        <location line="+45"/>
+        <location line="+42"/>
         <source>Vertical offset in percent of the height</source>
         <translation>Смещение по вертикали в процентах от высоты</translation>
     </message>
