@@ -621,13 +621,10 @@ private slots:
         QCOMPARE(node.parametersText(), stored);
 
         // The menu puts what it names where the cursor is.
-        QLineEdit* edit = nullptr;
-        for (QLineEdit* each : node.findChildren<QLineEdit*>())
-            edit = each->text() == "{n} of {count}" ? each : edit;
-        QVERIFY(edit);
+        const auto* menu = node.findChild<QMenu*>("WMRInsertMenu");
+        auto* edit = qobject_cast<QLineEdit*>(menu->parent());
         edit->setText("AB");
         edit->setCursorPosition(1);
-        const auto* menu = node.findChild<QMenu*>("WMRInsertMenu");
         for (QAction* action : menu->actions())
             if (action->text().endsWith("{year}") || action->text().endsWith("\u00a9"))
                 action->trigger();
