@@ -2,7 +2,6 @@
 
 #include "geometric.h"
 #include "operations.h"
-#include "textmacros.h"
 #include "watermarkoperation.h"
 
 namespace {

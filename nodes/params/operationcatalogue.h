@@ -17,11 +17,10 @@ QStringList operationNames();
 
 // An operation with its parameter text read once, for a run over many images: apply gives the
 // image through the operation's headless form, for the photo described (what a watermark's
-// text macros name); resultSize says, without touching pixels, how
-// large the result can be: the exact size for the operations that add pixels (Frame, Resize),
-// the size given for every other (none of them adds pixels), so that a run can refuse a result
-// too large before it is made. Both are safe on any thread; an unknown name leaves images and
-// sizes as they are.
+// text macros name); resultSize says, without touching pixels, how large the result can be:
+// the exact size for the operations that add pixels (Frame, Resize), the size given for every
+// other (none of them adds pixels), so that a run can refuse a result too large before it is
+// made. Both are safe on any thread; an unknown name leaves images and sizes as they are.
 struct PreparedOperation
 {
     QString name;
