@@ -2,6 +2,8 @@
 // preview-mode flag and the photo list model. Created on first use, never destroyed.
 #pragma once
 
+#include "textmacros.h"
+
 #include <QString>
 
 class ItemsModel;
@@ -16,6 +18,8 @@ public:
     // 1 while the live preview runs on a reduced copy; 0 while the large view wants full size.
     int previewMode = 1;
     QString displayName;
+    // The current photo as the watermark's text macros see it.
+    PhotoContext photo;
 
     ItemsModel* itemsModel();
 
