@@ -278,7 +278,7 @@ void WMRNode::addMoreRows(QFormLayout* what, QHBoxLayout* columns)
     moreButton = new QPushButton(tr("More"), this);
     moreButton->setObjectName("WMRMoreButton");
     moreButton->setCheckable(true);
-    moreButton->setToolTip(tr("Size of, angle, tiles, shadow, outline, automatic colour and "
+    moreButton->setToolTip(tr("Size of, angle, tiles, shadow, outline, automatic color and "
                               "position"));
     // Below the icon it stays in one place whichever rows show, and takes no room from them.
     moreButton->setFixedWidth(iconWidth);
@@ -292,7 +292,7 @@ void WMRNode::addMoreRows(QFormLayout* what, QHBoxLayout* columns)
                                "portrait and landscape photos with the long or the short edge"));
     angleSlider = newSlider(this, sliderRange(key("Angle")));
     angleSlider->setSliderMinimumWidth(angleSliderWidth);
-    angleSlider->setToolTip(tr("Turns the mark about its centre, counter-clockwise"));
+    angleSlider->setToolTip(tr("Turns the mark about its center, counter-clockwise"));
     addRow(what, key("SizeOf").translatedCaption(), sizeOfCombo, bothModes, false, Section::More);
     addRow(what, key("Angle").translatedCaption(), angleSlider, bothModes, false, Section::More);
     tileBox = new QCheckBox(this);

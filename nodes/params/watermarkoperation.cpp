@@ -80,7 +80,7 @@ const ParamTable<WMRValues>& WMROperation::table()
         param("ImageName", &WMRValues::ImageName, ParamKind::Text, node,
               QT_TRANSLATE_NOOP("WMRNode", "Logo:"), QString(WatermarkLogo::BuiltInName)),
         later(param<WMRValues>("Tile", &WMRValues::Tile, ParamKind::Toggle, node,
-                               QT_TRANSLATE_NOOP("WMRNode", "Tile"), false)),
+                               QT_TRANSLATE_NOOP("WMRNode", "Tile:"), false)),
         later(param<WMRValues>("TileGap", &WMRValues::TileGap, ParamKind::SpinBox, node,
                                QT_TRANSLATE_NOOP("WMRNode", "Gap: "), 50, {0, 200, 10, 5})),
         later(param<WMRValues>("Angle", &WMRValues::Angle, ParamKind::Slider, node,

@@ -176,7 +176,7 @@
 <context>
     <name>BaseNode</name>
     <message>
-        <location filename="../../nodes/nodecontrols.cpp" line="+153"/>
+        <location filename="../../nodes/nodecontrols.cpp" line="+158"/>
         <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Keine Optionen&lt;/H2&gt;</translation>
     </message>
@@ -1047,12 +1047,12 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+93"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+98"/>
         <source>Fewer options</source>
         <translation>Weniger Optionen</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="+52"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+59"/>
         <source>Bold</source>
         <translation>Fett</translation>
     </message>
@@ -1072,12 +1072,72 @@ Overwrite?</source>
         <translation>Zeichnen</translation>
     </message>
     <message>
+        <location line="+8"/>
+        <source>Tile:</source>
+        <translation>Kacheln:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Gap: </source>
+        <translation>Abstand: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Angle:</source>
+        <translation>Winkel:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Distance: </source>
+        <translation>Versatz: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Blur: </source>
+        <translation>Weichheit: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Outline</source>
+        <translation>Kontur</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Width: </source>
+        <translation>Breite: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Size of:</source>
+        <translation>Größe von:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Places:</source>
+        <translation>Orte:</translation>
+    </message>
+    <message>
         <location filename="../../nodes/wmrnode.cpp" line="+13"/>
         <source>Open a logo picture</source>
         <translation>Logobild öffnen</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="-10"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="-45"/>
         <source>X: </source>
         <translation>X: </translation>
     </message>
@@ -1110,6 +1170,96 @@ Overwrite?</source>
         <location line="+5"/>
         <source>Draw the background behind the text</source>
         <translation>Hintergrund hinter dem Text zeichnen</translation>
+    </message>
+    <message>
+        <location line="+131"/>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Long edge</source>
+        <translation>Lange Kante</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Short edge</source>
+        <translation>Kurze Kante</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>What the size is a percentage of: the same visual size on portrait and landscape photos with the long or the short edge</source>
+        <translation>Wovon die Größe ein Prozentsatz ist: mit der langen oder der kurzen Kante dieselbe sichtbare Größe auf Hoch- und Querformat</translation>
+    </message>
+    <message>
+        <location line="-10"/>
+        <source>Size of, angle, tiles, shadow, outline, automatic color and position</source>
+        <translation>Größe von, Winkel, Kacheln, Schatten, Kontur, automatische Farbe und Position</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Turns the mark about its center, counter-clockwise</source>
+        <translation>Dreht das Zeichen um seine Mitte, gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Repeats the mark over the whole photo; position and offsets set where the grid starts</source>
+        <translation>Wiederholt das Zeichen über das ganze Foto; Position und Versätze legen fest, wo das Raster beginnt</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Gap between the tiles in percent of the mark</source>
+        <translation>Abstand zwischen den Kacheln in Prozent des Zeichens</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Shadow color</source>
+        <translation>Schattenfarbe</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>How far the shadow lies right and down, in percent of the text height</source>
+        <translation>Wie weit der Schatten nach rechts unten liegt, in Prozent der Texthöhe</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>How soft the shadow is, in percent of the text height</source>
+        <translation>Wie weich der Schatten ist, in Prozent der Texthöhe</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Outline color</source>
+        <translation>Konturfarbe</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Width of the outline in percent of the text height</source>
+        <translation>Breite der Kontur in Prozent der Texthöhe</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Per photo, the text color or its light or dark opposite, whichever stands out more; the shadow and outline follow</source>
+        <translation>Je Foto die Textfarbe oder ihr helles bzw. dunkles Gegenstück, je nachdem, was sich besser abhebt; Schatten und Kontur folgen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Per photo, the ticked place with the least detail under the mark, the offsets kept</source>
+        <translation>Je Foto der angekreuzte Ort mit den wenigsten Details unter dem Zeichen; die Versätze bleiben</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Auto:</source>
+        <translation>Auto:</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The places the automatic position chooses from</source>
+        <translation>Die Orte, unter denen die automatische Position wählt</translation>
     </message>
     <message>
         <location filename="../../nodes/params/watermarkoperation.cpp" line="-20"/>
@@ -1162,7 +1312,7 @@ Overwrite?</source>
         <translation>Strecken:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+58"/>
+        <location filename="../../nodes/wmrnode.cpp" line="-133"/>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
@@ -1185,7 +1335,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+65"/>
+        <location filename="../../app/batchmain.cpp" line="+66"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1308,17 +1458,17 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>%1 ist kein Ablauf: kein wohlgeformtes XML</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+24"/>
         <source>unknown format %1</source>
         <translation>unbekanntes Format %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+5"/>
         <source>the quality must be 1 to 100</source>
         <translation>die Qualität muss zwischen 1 und 100 liegen</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>--rename and --no-rename exclude each other</source>
         <translation>--rename und --no-rename schließen einander aus</translation>
     </message>
@@ -1333,22 +1483,22 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>die Nummern müssen all, odd oder even sein</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+4"/>
         <source>the megapixels must be a whole number of at least 1</source>
         <translation>die Megapixel müssen eine ganze Zahl von mindestens 1 sein</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>die Metadaten müssen keep, strip-location oder strip sein</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>the kilobytes must be a whole number of at least 1</source>
         <translation>die Kilobyte müssen eine ganze Zahl von mindestens 1 sein</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unknown colour %1</source>
         <translation>unbekannte Farbe %1</translation>
     </message>

@@ -176,7 +176,7 @@
 <context>
     <name>BaseNode</name>
     <message>
-        <location filename="../../nodes/nodecontrols.cpp" line="+153"/>
+        <location filename="../../nodes/nodecontrols.cpp" line="+158"/>
         <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Нет параметров&lt;/H2&gt;</translation>
     </message>
@@ -1047,12 +1047,12 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+93"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+98"/>
         <source>Fewer options</source>
         <translation>Меньше параметров</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="+52"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+59"/>
         <source>Bold</source>
         <translation>Жирный</translation>
     </message>
@@ -1072,12 +1072,72 @@ Overwrite?</source>
         <translation>Рисовать</translation>
     </message>
     <message>
+        <location line="+8"/>
+        <source>Tile:</source>
+        <translation>Плитка:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Gap: </source>
+        <translation>Зазор: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Angle:</source>
+        <translation>Угол:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Shadow</source>
+        <translation>Тень</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Distance: </source>
+        <translation>Сдвиг: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Blur: </source>
+        <translation>Размытие: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Outline</source>
+        <translation>Контур</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Width: </source>
+        <translation>Толщина: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Size of:</source>
+        <translation>Размер от:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Color</source>
+        <translation>Цвет</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Position</source>
+        <translation>Положение</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Places:</source>
+        <translation>Места:</translation>
+    </message>
+    <message>
         <location filename="../../nodes/wmrnode.cpp" line="+13"/>
         <source>Open a logo picture</source>
         <translation>Открыть изображение логотипа</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="-10"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="-45"/>
         <source>X: </source>
         <translation>X: </translation>
     </message>
@@ -1110,6 +1170,96 @@ Overwrite?</source>
         <location line="+5"/>
         <source>Draw the background behind the text</source>
         <translation>Рисовать фон под текстом</translation>
+    </message>
+    <message>
+        <location line="+131"/>
+        <source>More</source>
+        <translation>Ещё</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Width</source>
+        <translation>Ширины</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Long edge</source>
+        <translation>Длинной стороны</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Short edge</source>
+        <translation>Короткой стороны</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>What the size is a percentage of: the same visual size on portrait and landscape photos with the long or the short edge</source>
+        <translation>От чего берётся размер в процентах: с длинной или короткой стороной знак одного размера на вертикальных и горизонтальных фото</translation>
+    </message>
+    <message>
+        <location line="-10"/>
+        <source>Size of, angle, tiles, shadow, outline, automatic color and position</source>
+        <translation>Размер от, угол, плитка, тень, контур, автоматический цвет и положение</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Turns the mark about its center, counter-clockwise</source>
+        <translation>Поворачивает знак вокруг его центра против часовой стрелки</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Repeats the mark over the whole photo; position and offsets set where the grid starts</source>
+        <translation>Повторяет знак по всему фото; положение и смещения задают начало сетки</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Gap between the tiles in percent of the mark</source>
+        <translation>Зазор между плитками в процентах от знака</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Shadow color</source>
+        <translation>Цвет тени</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>How far the shadow lies right and down, in percent of the text height</source>
+        <translation>Насколько тень сдвинута вправо и вниз, в процентах от высоты текста</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>How soft the shadow is, in percent of the text height</source>
+        <translation>Насколько тень мягкая, в процентах от высоты текста</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Outline color</source>
+        <translation>Цвет контура</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Width of the outline in percent of the text height</source>
+        <translation>Толщина контура в процентах от высоты текста</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Per photo, the text color or its light or dark opposite, whichever stands out more; the shadow and outline follow</source>
+        <translation>Для каждого фото цвет текста или его светлая либо тёмная противоположность, смотря что заметнее; тень и контур следуют за ним</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Per photo, the ticked place with the least detail under the mark, the offsets kept</source>
+        <translation>Для каждого фото отмеченное место с наименьшим числом деталей под знаком; смещения сохраняются</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Auto:</source>
+        <translation>Авто:</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The places the automatic position chooses from</source>
+        <translation>Места, из которых выбирает автоматическое положение</translation>
     </message>
     <message>
         <location filename="../../nodes/params/watermarkoperation.cpp" line="-20"/>
@@ -1162,7 +1312,7 @@ Overwrite?</source>
         <translation>Растянуть:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+58"/>
+        <location filename="../../nodes/wmrnode.cpp" line="-133"/>
         <source>Warning</source>
         <translation>Предупреждение</translation>
     </message>
@@ -1185,7 +1335,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+65"/>
+        <location filename="../../app/batchmain.cpp" line="+66"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1308,17 +1458,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>%1 — не сценарий: это некорректный XML</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+24"/>
         <source>unknown format %1</source>
         <translation>неизвестный формат %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+5"/>
         <source>the quality must be 1 to 100</source>
         <translation>качество должно быть от 1 до 100</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>--rename and --no-rename exclude each other</source>
         <translation>--rename и --no-rename исключают друг друга</translation>
     </message>
@@ -1333,22 +1483,22 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>номера должны быть all, odd или even</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+4"/>
         <source>the megapixels must be a whole number of at least 1</source>
         <translation>мегапиксели должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>метаданные должны быть keep, strip-location или strip</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>the kilobytes must be a whole number of at least 1</source>
         <translation>килобайты должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unknown colour %1</source>
         <translation>неизвестный цвет %1</translation>
     </message>
