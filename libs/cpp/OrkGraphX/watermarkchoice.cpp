@@ -1,5 +1,7 @@
 #include "watermarkchoice.h"
 
+#include "pixelwords.h"
+
 #include <QTransform>
 
 #include <array>
@@ -36,6 +38,27 @@ double relativeLuminance(int red, int green, int blue)
     return 0.2126 * linear(red) + 0.7152 * linear(green) + 0.0722 * linear(blue);
 }
 
+// The pixels of one row: 32-bit words are read straight from it, other formats through pixel().
+class Row
+{
+public:
+    Row(const QImage& image, int y)
+        : image(image)
+        , y(y)
+        , words(PixelWords::isWordFormat(image.format())
+                    ? reinterpret_cast<const QRgb*>(image.constScanLine(y))
+                    : nullptr)
+    {
+    }
+
+    QRgb operator[](int x) const { return words ? words[x] : image.pixel(x, y); }
+
+private:
+    const QImage& image;
+    int y;
+    const QRgb* words;
+};
+
 // The mean of |gradient| over the region, from forward differences of the luma; infinite for a
 // region too small to have any.
 double meanGradient(const QImage& image, const QRect& region)
@@ -44,11 +67,13 @@ double meanGradient(const QImage& image, const QRect& region)
     double sum = 0;
     int count = 0;
     for (int y = region.top(); y < region.bottom(); y += step) {
+        const Row row(image, y);
+        const Row below(image, y + 1);
         for (int x = region.left(); x < region.right(); x += step) {
-            const int here = luma(image.pixel(x, y));
-            const int dx = luma(image.pixel(x + 1, y)) - here;
-            const int dy = luma(image.pixel(x, y + 1)) - here;
-            sum += std::sqrt(double(dx * dx + dy * dy));
+            const int here = luma(row[x]);
+            const int dx = luma(row[x + 1]) - here;
+            const int dy = luma(below[x]) - here;
+            sum += std::sqrt(float(dx * dx + dy * dy));
             ++count;
         }
     }
@@ -63,8 +88,9 @@ double meanLuminance(const QImage& image, const QRect& region)
     const int step = samplingStep(region);
     qint64 total = 0;
     for (int y = region.top(); y <= region.bottom(); y += step) {
+        const Row row(image, y);
         for (int x = region.left(); x <= region.right(); x += step) {
-            const QRgb pixel = image.pixel(x, y);
+            const QRgb pixel = row[x];
             ++counts[0][qRed(pixel)];
             ++counts[1][qGreen(pixel)];
             ++counts[2][qBlue(pixel)];
