@@ -1,5 +1,6 @@
 // "Watermark": a text or a logo placed on the image, in three columns of controls that fit
-// the low, wide options area, and a compact form.
+// the low, wide options area, a compact form, and its further settings in their place behind
+// "More".
 #pragma once
 
 #include "keyednode.h"
