@@ -334,6 +334,9 @@ void WMRNode::addMoreRows(QFormLayout* what, QHBoxLayout* columns)
                                    "the mark, the offsets kept"));
     addRow(what, tr("Auto:"), newRowFields({autoColorBox, autoPositionBox}, packed), bothModes,
            false, Section::More);
+    // A logo keeps its colours: the colour box shows with the text only.
+    rows.last().fields.removeOne(autoColorBox);
+    rows.append({nullptr, {autoColorBox}, textMode, false, Section::More});
     autoPositions = new DirectionsWidget(this, DirectionsWidget::SeveralCells);
     autoPositions->setCells(key("AutoPositions").uiDefault.toInt());
     autoPositions->setToolTip(tr("The places the automatic position chooses from"));

@@ -596,6 +596,21 @@ private slots:
         QCOMPARE(shown(), QString("Kind:|Text:"));
         load(&node, "Mode=1");
         QCOMPARE(shown(), QString("Kind:|Logo:"));
+        // The further settings take the place of all others; a logo has no colour to choose.
+        node.findChild<QPushButton*>("WMRShrinkButton")->click();
+        node.findChild<QPushButton*>("WMRMoreButton")->click();
+        const auto boxes = [&node] {
+            QStringList texts;
+            for (const QCheckBox* box : node.findChildren<QCheckBox*>()) {
+                if (!box->isHidden())
+                    texts << box->text();
+            }
+            return texts.join('|');
+        };
+        QCOMPARE(shown(), QString("Size of:|Angle:|Tile:|Auto:|Places:"));
+        QCOMPARE(boxes(), QString("|Position"));
+        load(&node, "Mode=0");
+        QCOMPARE(boxes(), QString("|Shadow|Outline|Color|Position"));
     }
 
     void logo()
