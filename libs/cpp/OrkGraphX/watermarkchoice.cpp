@@ -108,6 +108,12 @@ double meanLuminance(const QImage& image, const QRect& region)
     return sum / total;
 }
 
+// The WCAG contrast ratio of two relative luminances, 1 to 21.
+double contrastRatio(double luminance, double other)
+{
+    return (std::max(luminance, other) + 0.05) / (std::min(luminance, other) + 0.05);
+}
+
 double luminanceOf(const QColor& color)
 {
     return relativeLuminance(color.red(), color.green(), color.blue());
@@ -183,11 +189,6 @@ QColor oppositeColor(const QColor& color)
     if (std::abs(mirrored - lightness) < 0.5)
         mirrored = lightness < 0.5 ? 1 : 0;
     return QColor::fromHslF(hsl.hslHueF(), hsl.hslSaturationF(), mirrored, hsl.alphaF()).toRgb();
-}
-
-double contrastRatio(double luminance, double other)
-{
-    return (std::max(luminance, other) + 0.05) / (std::min(luminance, other) + 0.05);
 }
 
 } // namespace OrkGraphX

@@ -33,7 +33,4 @@ WatermarkChoice chooseWatermark(const QImage& image, const QSize& box, int angle
 // mirror would hardly differ, gives way to black or white.
 QColor oppositeColor(const QColor& color);
 
-// The WCAG contrast ratio of two relative luminances, 1 to 21.
-double contrastRatio(double luminance, double other);
-
 } // namespace OrkGraphX
