@@ -6,8 +6,10 @@
 #include "neighbourhood.h"
 #include "point.h"
 #include "watermark.h"
+#include "watermarkchoice.h"
 
 #include <QElapsedTimer>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QTransform>
@@ -121,6 +123,14 @@ void printRow(const char* name, const Bench::Figures& f, const char* referenceNa
     const double ratio = byCopy ? f.copyRatio : f.referenceRatio;
     std::printf("%-34s %9.2f %8.1f %8.2fx  %-30s %-12s %s\n", name, f.ms, megapixelsPerSecond,
                 f.copyRatio, reference, target, target[0] ? (ratio <= factor ? "yes" : "NO") : "");
+}
+
+// A row whose target is a time: met when the median takes at most maxMs.
+void printTimeRow(const char* name, const Bench::Figures& f, double maxMs, const char* target)
+{
+    Bench::Figures againstTarget = f;
+    againstTarget.referenceRatio = f.ms / maxMs;
+    printRow(name, againstTarget, "", target, false, 1.0);
 }
 
 } // namespace
@@ -280,6 +290,52 @@ int main(int argc, char* argv[])
     figuresOnly(
         "drawWatermark logo 30%", [&logo](QImage& image) { return drawWatermark(image, logo); },
         "QPainter fill", qtFill);
+
+    // The further settings: a smaller text tiled and turned against the same text alone, and
+    // the automatic choices for the text at 60 % (its drawing rectangle on this photo).
+    WMRParams plain = text;
+    plain.Size = 25;
+    plain.BackgroundEnabled = false;
+    WMRParams tiled = plain;
+    tiled.Tile = true;
+    tiled.Angle = 30;
+    if (selected("drawWatermark text 25% tiled, turned 30"))
+        printRow("drawWatermark text 25% tiled, turned 30",
+                 bench.measure([&tiled](QImage& image) { return drawWatermark(image, tiled); },
+                               [&plain](QImage& image) { return drawWatermark(image, plain); }),
+                 "the text alone", "<= 3x alone", false, 3.0);
+    tiled.Shadow = true;
+    figuresOnly(
+        "drawWatermark text 25% tiled, turned, shadow",
+        [&tiled](QImage& image) { return drawWatermark(image, tiled); }, "the text alone",
+        [&plain](QImage& image) { return drawWatermark(image, plain); });
+    WMRParams automatic = text;
+    automatic.AutoColor = true;
+    automatic.AutoPosition = true;
+    const QFont measured = [&text] {
+        QFont font = text.Font;
+        font.setPixelSize(Width * text.Size / 100 * 96 / 100);
+        return font;
+    }();
+    const QSize box(QFontMetrics(measured).horizontalAdvance(text.Text) + 4,
+                    QFontMetrics(measured).height() + 4);
+    // Timed alone, as it makes no image, each time after 64 MB of other memory has pushed the
+    // photo out of the caches, as a photo fresh from the reader would be.
+    if (selected("chooseWatermark auto colour + position")) {
+        const QImage photo = photoLikeImage(Width, Height, 20240611);
+        QByteArray flush(64 << 20, 1);
+        int chosen = 0;
+        QVector<double> times;
+        for (int round = 0; round < 15; ++round) {
+            std::memset(flush.data(), round, std::size_t(flush.size()));
+            times << milliseconds(
+                [&] { chosen = chooseWatermark(photo, box, 0, automatic).position; });
+        }
+        const double ms = median(times);
+        printTimeRow("chooseWatermark auto colour + position", {ms, ms / copyMs, 0}, 5.0,
+                     "<= 5 ms");
+        std::printf("(cold caches; the cell chosen: %d)\n", chosen);
+    }
 
     if (blurMs.size() > 1)
         std::printf("\nblur at radius 1, 10 and 30: slowest / fastest median = %.2f\n",

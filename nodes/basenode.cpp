@@ -35,6 +35,20 @@ BaseNode::BaseNode(const QString& name, QWidget* parent)
 
 BaseNode::~BaseNode() = default;
 
+void BaseNode::addBelowIcon(QWidget* widget)
+{
+    auto* row = static_cast<QHBoxLayout*>(layout());
+    const int at = row->indexOf(iconLabel);
+    row->removeWidget(iconLabel);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(3);
+    column->addStretch(1);
+    column->addWidget(iconLabel);
+    column->addWidget(widget);
+    column->addStretch(1);
+    row->insertLayout(at, column);
+}
+
 void BaseNode::loadParameters(const QDomElement& /*parameters*/) {}
 
 void BaseNode::saveParameters(QDomElement& /*parameters*/, QDomDocument /*document*/) {}

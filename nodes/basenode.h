@@ -51,6 +51,9 @@ public slots:
     void slotActiveStateChanged();
 
 protected:
+    // Puts the widget below the node's icon, outside the options.
+    void addBelowIcon(QWidget* widget);
+
     QImage disabledPicture;
     QGroupBox* activeBox = nullptr;
     OrkWidgets::ClickableImageLabel* iconLabel = nullptr;

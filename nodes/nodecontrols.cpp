@@ -105,6 +105,8 @@ QVariant controlValue(ParamKind kind, const QObject* control)
         return static_cast<const QLineEdit*>(control)->text();
     case ParamKind::Direction:
         return int(static_cast<const DirectionsWidget*>(control)->direction());
+    case ParamKind::Cells:
+        return static_cast<const DirectionsWidget*>(control)->cells();
     case ParamKind::Font:
         // Only the family travels: a font of that family with default size and weight.
         return QFont(static_cast<const QFontComboBox*>(control)->currentFont().family());
@@ -139,6 +141,9 @@ void setControlValue(ParamKind kind, QObject* control, const QVariant& value)
         break;
     case ParamKind::Direction:
         static_cast<DirectionsWidget*>(control)->setDirection(Direction(value.toInt()));
+        break;
+    case ParamKind::Cells:
+        static_cast<DirectionsWidget*>(control)->setCells(value.toInt());
         break;
     case ParamKind::Font:
         static_cast<QFontComboBox*>(control)->setCurrentFont(QFont(value.value<QFont>().family()));

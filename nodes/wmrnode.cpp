@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QFontComboBox>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
@@ -35,6 +36,10 @@ const bool captionsAbove = true;
 const bool captionsBeside = false;
 const bool packed = true;
 const int fontComboLetters = 6;
+const int sizeOfLetters = 5;
+const int angleSliderWidth = 60;
+// As wide as the node's icon, below which it lies.
+const int iconWidth = 64;
 // Long captions (Russian ones) would otherwise squeeze the sliders to a few pixels.
 const int sliderMinimumWidth = 80;
 
@@ -226,6 +231,7 @@ WMRNode::WMRNode(QWidget* parent)
            newRowFields({backgroundButton, backgroundEnabledBox}, packed), textMode, false);
     addRow(newForm(colours, captionsAbove), key("Expand").translatedCaption(), expandBox, logoMode,
            false);
+    addMoreRows(what, columns);
     updateRows(textMode);
 
     connect(kindCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -284,20 +290,140 @@ void WMRNode::slotShrinkClicked(bool checked)
     emit parametersChanged();
 }
 
+void WMRNode::slotMoreClicked(bool checked)
+{
+    more = checked;
+    updateRows(kindCombo->currentIndex());
+    emit parametersChanged();
+}
+
 void WMRNode::addRow(QFormLayout* form, const QString& label, QWidget* field, int mode,
-                     bool essential)
+                     bool essential, Section section)
 {
     form->addRow(label, field);
-    rows.append({form->labelForField(field), {field}, mode, essential});
+    rows.append({form->labelForField(field), {field}, mode, essential, section});
 }
 
 void WMRNode::addRow(QFormLayout* form, const QString& label, QLayout* fields, int mode,
-                     bool essential)
+                     bool essential, Section section)
 {
     form->addRow(label, fields);
-    Row row{form->labelForField(fields), {}, mode, essential};
+    Row row{form->labelForField(fields), {}, mode, essential, section};
     collectWidgets(fields, row.fields);
     rows.append(row);
+}
+
+void WMRNode::addGridRow(QGridLayout* grid, std::initializer_list<QWidget*> fields, int mode)
+{
+    Row row{nullptr, {}, mode, false, Section::More};
+    const int at = grid->rowCount();
+    int column = 0;
+    for (QWidget* field : fields) {
+        if (field) {
+            grid->addWidget(field, at, column, Qt::AlignLeft);
+            row.fields.append(field);
+        }
+        ++column;
+    }
+    rows.append(row);
+}
+
+void WMRNode::addMoreRows(QFormLayout* what, QHBoxLayout* columns)
+{
+    moreButton = new QPushButton(tr("More"), this);
+    moreButton->setObjectName("WMRMoreButton");
+    moreButton->setCheckable(true);
+    moreButton->setToolTip(tr("Size of, angle, tiles, shadow, outline, automatic color and "
+                              "position"));
+    // Below the icon it stays in one place whichever rows show, and takes no room from them.
+    moreButton->setFixedWidth(iconWidth);
+    addBelowIcon(moreButton);
+
+    sizeOfCombo = new QComboBox(this);
+    sizeOfCombo->addItems({tr("Width"), tr("Long edge"), tr("Short edge")});
+    sizeOfCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    sizeOfCombo->setMinimumContentsLength(sizeOfLetters);
+    sizeOfCombo->setToolTip(tr("What the size is a percentage of: the same visual size on "
+                               "portrait and landscape photos with the long or the short edge"));
+    angleSlider = newSlider(this, sliderRange(key("Angle")));
+    angleSlider->setSliderMinimumWidth(angleSliderWidth);
+    angleSlider->setToolTip(tr("Turns the mark about its center, counter-clockwise"));
+    addRow(what, key("SizeOf").translatedCaption(), sizeOfCombo, bothModes, false, Section::More);
+    addRow(what, key("Angle").translatedCaption(), angleSlider, bothModes, false, Section::More);
+    tileBox = new QCheckBox(this);
+    tileBox->setToolTip(tr("Repeats the mark over the whole photo; position and offsets set "
+                           "where the grid starts"));
+    tileGapBox =
+        newOffsetBox(key("TileGap"), tr("Gap between the tiles in percent of the mark"), this);
+    addRow(what, key("Tile").translatedCaption(), newRowFields({tileBox, tileGapBox}, packed),
+           bothModes, false, Section::More);
+
+    shadowBox = new QCheckBox(key("Shadow").translatedCaption(), this);
+    shadowColorButton = newColorButton(this, key("ShadowColor").uiDefault.value<QColor>());
+    shadowColorButton->setToolTip(tr("Shadow color"));
+    shadowDistanceBox = newOffsetBox(
+        key("ShadowDistance"),
+        tr("How far the shadow lies right and down, in percent of the text height"), this);
+    shadowBlurBox = newOffsetBox(key("ShadowBlur"),
+                                 tr("How soft the shadow is, in percent of the text height"), this);
+    outlineBox = new QCheckBox(key("Outline").translatedCaption(), this);
+    outlineColorButton = newColorButton(this, key("OutlineColor").uiDefault.value<QColor>());
+    outlineColorButton->setToolTip(tr("Outline color"));
+    outlineWidthBox = newOffsetBox(key("OutlineWidth"),
+                                   tr("Width of the outline in percent of the text height"), this);
+    // Each colour below its check box, the amounts beside them.
+    auto* effects = new QGridLayout;
+    effects->setHorizontalSpacing(rowSpacing);
+    effects->setVerticalSpacing(rowSpacing);
+    columns->addLayout(effects);
+    addGridRow(effects, {shadowBox, shadowDistanceBox}, textMode);
+    addGridRow(effects, {shadowColorButton, shadowBlurBox}, textMode);
+    addGridRow(effects, {outlineBox, outlineWidthBox}, textMode);
+    addGridRow(effects, {outlineColorButton}, textMode);
+
+    autoColorBox = new QCheckBox(key("AutoColor").translatedCaption(), this);
+    autoColorBox->setToolTip(tr("Per photo, the text color or its light or dark opposite, "
+                                "whichever stands out more; the shadow and outline follow"));
+    autoPositionBox = new QCheckBox(key("AutoPosition").translatedCaption(), this);
+    autoPositionBox->setToolTip(tr("Per photo, the ticked place with the least detail under "
+                                   "the mark, the offsets kept"));
+    addRow(what, tr("Auto:"), newRowFields({autoColorBox, autoPositionBox}, packed), bothModes,
+           false, Section::More);
+    // A logo keeps its colours: the colour box shows with the text only.
+    rows.last().fields.removeOne(autoColorBox);
+    rows.append({nullptr, {autoColorBox}, textMode, false, Section::More});
+    autoPositions = new DirectionsWidget(this, DirectionsWidget::SeveralCells);
+    autoPositions->setCells(key("AutoPositions").uiDefault.toInt());
+    autoPositions->setToolTip(tr("The places the automatic position chooses from"));
+    addRow(newForm(columns, captionsAbove), key("AutoPositions").translatedCaption(), autoPositions,
+           bothModes, false, Section::More);
+
+    const std::pair<const char*, QObject*> bound[] = {
+        {"Tile", tileBox},
+        {"TileGap", tileGapBox},
+        {"Angle", angleSlider},
+        {"Shadow", shadowBox},
+        {"ShadowColor", shadowColorButton},
+        {"ShadowDistance", shadowDistanceBox},
+        {"ShadowBlur", shadowBlurBox},
+        {"Outline", outlineBox},
+        {"OutlineColor", outlineColorButton},
+        {"OutlineWidth", outlineWidthBox},
+        {"SizeOf", sizeOfCombo},
+        {"AutoColor", autoColorBox},
+        {"AutoPosition", autoPositionBox},
+        {"AutoPositions", autoPositions},
+    };
+    for (const auto& [name, control] : bound)
+        bindControl(name, control);
+    connect(moreButton, &QPushButton::clicked, this, &WMRNode::slotMoreClicked);
+    connect(sizeOfCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &BaseNode::parametersChanged);
+    for (QCheckBox* box : {tileBox, shadowBox, outlineBox, autoColorBox, autoPositionBox})
+        connect(box, &QCheckBox::stateChanged, this, &BaseNode::parametersChanged);
+    for (QSpinBox* box : {tileGapBox, shadowDistanceBox, shadowBlurBox, outlineWidthBox})
+        connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &BaseNode::parametersChanged);
+    connect(autoPositions, &DirectionsWidget::cellsChanged, this, &BaseNode::parametersChanged);
 }
 
 QLayout* WMRNode::newPositionFields()
@@ -315,11 +441,14 @@ QLayout* WMRNode::newPositionFields()
 
 void WMRNode::updateRows(int mode)
 {
+    const Section hidden = more ? Section::First : Section::More;
     for (const Row& row : qAsConst(rows)) {
-        const bool visible =
-            (row.mode == bothModes || row.mode == mode) && (!compact || row.essential);
+        const bool shown = compact ? row.essential : row.section != hidden;
+        const bool visible = (row.mode == bothModes || row.mode == mode) && shown;
         for (QWidget* field : row.fields)
             field->setVisible(visible);
-        row.label->setVisible(visible);
+        if (row.label)
+            row.label->setVisible(visible);
     }
+    moreButton->setVisible(!compact);
 }

@@ -1,5 +1,6 @@
 // "Watermark": a text or a logo placed on the image, in three columns of controls that fit
-// the low, wide options area, and a compact form.
+// the low, wide options area, a compact form, and its further settings in their place behind
+// "More".
 #pragma once
 
 #include "keyednode.h"
@@ -11,8 +12,10 @@ class ComboSlider;
 class DirectionsWidget;
 class QCheckBox;
 class QComboBox;
+class QHBoxLayout;
 class QFontComboBox;
 class QFormLayout;
+class QGridLayout;
 class QLayout;
 class QLineEdit;
 class QPushButton;
@@ -43,8 +46,13 @@ public slots:
     void slotWMRBrowse();
     // The compact form, while checked, keeps only the kind and the text or logo rows.
     void slotShrinkClicked(bool checked);
+    // While checked, the rows of the further settings take the place of the others but the kind.
+    void slotMoreClicked(bool checked);
 
 private:
+    // Which of the two sets of rows a row belongs to: the first or the further settings.
+    enum class Section { First, More };
+
     // A row of one of the forms and the kind it belongs to (-1 to both); essential rows stay in
     // the compact form.
     struct Row
@@ -53,13 +61,20 @@ private:
         QVector<QWidget*> fields;
         int mode = -1;
         bool essential = false;
+        Section section = Section::First;
     };
 
-    void addRow(QFormLayout* form, const QString& label, QWidget* field, int mode, bool essential);
+    void addRow(QFormLayout* form, const QString& label, QWidget* field, int mode, bool essential,
+                Section section = Section::First);
     // A row of several widgets: a layout, so that no extra widget paints a background of its own.
-    void addRow(QFormLayout* form, const QString& label, QLayout* fields, int mode, bool essential);
+    void addRow(QFormLayout* form, const QString& label, QLayout* fields, int mode, bool essential,
+                Section section = Section::First);
+    // A row of the further settings without a caption, in a grid.
+    void addGridRow(QGridLayout* grid, std::initializer_list<QWidget*> fields, int mode);
     // The picker with the two offsets stacked beside it.
     QLayout* newPositionFields();
+    // The further settings: size of, angle, tiles, shadow, outline and the automatic choices.
+    void addMoreRows(QFormLayout* what, QHBoxLayout* columns);
     void updateRows(int mode);
 
     QComboBox* kindCombo = nullptr;
@@ -80,6 +95,22 @@ private:
     QSpinBox* xOffsetBox = nullptr;
     QSpinBox* yOffsetBox = nullptr;
     QCheckBox* expandBox = nullptr;
+    QPushButton* moreButton = nullptr;
+    QComboBox* sizeOfCombo = nullptr;
+    ComboSlider* angleSlider = nullptr;
+    QCheckBox* tileBox = nullptr;
+    QSpinBox* tileGapBox = nullptr;
+    QCheckBox* shadowBox = nullptr;
+    OrkWidgets::ColorButton* shadowColorButton = nullptr;
+    QSpinBox* shadowDistanceBox = nullptr;
+    QSpinBox* shadowBlurBox = nullptr;
+    QCheckBox* outlineBox = nullptr;
+    OrkWidgets::ColorButton* outlineColorButton = nullptr;
+    QSpinBox* outlineWidthBox = nullptr;
+    QCheckBox* autoColorBox = nullptr;
+    QCheckBox* autoPositionBox = nullptr;
+    DirectionsWidget* autoPositions = nullptr;
     QVector<Row> rows;
     bool compact = false;
+    bool more = false;
 };

@@ -28,3 +28,25 @@ int directionFromName(const QString& name)
 {
     return names().indexOf(name);
 }
+
+QString directionNames(int cells)
+{
+    QStringList chosen;
+    for (int cell = TopLeft; cell <= BottomRight; ++cell) {
+        if (cells & (1 << cell))
+            chosen << names().at(cell);
+    }
+    return chosen.join(',');
+}
+
+int directionsFromNames(const QString& text)
+{
+    int cells = 0;
+    for (const QString& name : text.split(',', Qt::SkipEmptyParts)) {
+        const int cell = directionFromName(name.trimmed());
+        if (cell < 0)
+            return -1;
+        cells |= 1 << cell;
+    }
+    return cells;
+}

@@ -21,3 +21,9 @@ Q_DECLARE_METATYPE(Direction)
 QString directionName(int direction);
 // The cell whose name is exactly name, or -1 when none is.
 int directionFromName(const QString& name);
+
+// The cells of a set (bit n for cell n) by name in reading order, joined by ",".
+QString directionNames(int cells);
+// The set of the cells named in text, joined by ","; an empty text is the empty set, and a text
+// that names anything else -1.
+int directionsFromNames(const QString& text);

@@ -83,6 +83,14 @@ ParamText textFor(ParamKind kind)
                         value = direction;
                     return direction >= 0;
                 }};
+    case ParamKind::Cells:
+        return {[](const QVariant& value) { return directionNames(value.toInt()); },
+                [](const QString& text, QVariant& value) {
+                    const int cells = directionsFromNames(text);
+                    if (cells >= 0)
+                        value = cells;
+                    return cells >= 0;
+                }};
     case ParamKind::Font:
         // Only the family travels: a font of that family with default size and weight.
         return {[](const QVariant& value) { return value.value<QFont>().family(); },
@@ -123,6 +131,7 @@ QVariant clamped(ParamKind kind, const QVariant& value, const QVariant& before,
     case ParamKind::Toggle:
     case ParamKind::Colour:
     case ParamKind::Direction:
+    case ParamKind::Cells:
     case ParamKind::Plain:
         break;
     }

@@ -27,6 +27,7 @@ enum class ParamKind {
     Colour,    // QColor
     Text,      // QString of at most maxTextLength characters
     Direction, // int 0..8, stored by name
+    Cells,     // int: a set of Direction cells, bit n for cell n, stored as names joined by ","
     Font,      // QFont: the family as the font picker resolves it
     Plain,     // a value the node keeps itself (an angle, a picture): taken as it is
 };

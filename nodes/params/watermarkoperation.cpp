@@ -20,6 +20,13 @@ const ParamTable<WMRValues>& WMROperation::table()
     const char* node = "WMRNode";
     const ParamRange percent{0, 100, 20, 1};
     const ParamRange offsets{-33, 33, 1, 1};
+    const ParamRange partOfText{0, 50, 5, 1};
+    // The keys added after "ImageName" are left out of the text while they hold their defaults,
+    // so that a watermark using none of them is stored as it was before they existed.
+    const auto later = [](Param<WMRValues> row) {
+        row.writtenOnlyWhenChanged = true;
+        return row;
+    };
     auto logo = param<WMRValues>("ImageData", &WMRValues::ImageData, ParamKind::Plain, node,
                                  nullptr, WatermarkLogo::builtIn());
     // The built-in logo is not copied into the text; an empty or undecodable value keeps
@@ -72,6 +79,36 @@ const ParamTable<WMRValues>& WMROperation::table()
         logo,
         param("ImageName", &WMRValues::ImageName, ParamKind::Text, node,
               QT_TRANSLATE_NOOP("WMRNode", "Logo:"), QString(WatermarkLogo::BuiltInName)),
+        later(param<WMRValues>("Tile", &WMRValues::Tile, ParamKind::Toggle, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Tile:"), false)),
+        later(param<WMRValues>("TileGap", &WMRValues::TileGap, ParamKind::SpinBox, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Gap: "), 50, {0, 200, 10, 5})),
+        later(param<WMRValues>("Angle", &WMRValues::Angle, ParamKind::Slider, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Angle:"), 0, {-90, 90, 45, 1},
+                               "\u00b0")),
+        later(param<WMRValues>("Shadow", &WMRValues::Shadow, ParamKind::Toggle, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Shadow"), false)),
+        later(param<WMRValues>("ShadowColor", &WMRValues::ShadowColor, ParamKind::Colour, node,
+                               nullptr, QColor(Qt::black))),
+        later(param<WMRValues>("ShadowDistance", &WMRValues::ShadowDistance, ParamKind::SpinBox,
+                               node, QT_TRANSLATE_NOOP("WMRNode", "Distance: "), 8, partOfText)),
+        later(param<WMRValues>("ShadowBlur", &WMRValues::ShadowBlur, ParamKind::SpinBox, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Blur: "), 8, partOfText)),
+        later(param<WMRValues>("Outline", &WMRValues::Outline, ParamKind::Toggle, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Outline"), false)),
+        later(param<WMRValues>("OutlineColor", &WMRValues::OutlineColor, ParamKind::Colour, node,
+                               nullptr, QColor(Qt::black))),
+        later(param<WMRValues>("OutlineWidth", &WMRValues::OutlineWidth, ParamKind::SpinBox, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Width: "), 4, {0, 20, 1, 1})),
+        later(param<WMRValues>("SizeOf", &WMRValues::SizeOf, ParamKind::Choice, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Size of:"), 0, {}, nullptr, 3)),
+        later(param<WMRValues>("AutoColor", &WMRValues::AutoColor, ParamKind::Toggle, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Color"), false)),
+        later(param<WMRValues>("AutoPosition", &WMRValues::AutoPosition, ParamKind::Toggle, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Position"), false)),
+        later(param<WMRValues>("AutoPositions", &WMRValues::AutoPositions, ParamKind::Cells, node,
+                               QT_TRANSLATE_NOOP("WMRNode", "Places:"),
+                               int(OrkGraphX::WMRParams::CornerCells))),
     };
     return table;
 }

@@ -8,9 +8,10 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
-DirectionsWidget::DirectionsWidget(QWidget* parent)
+DirectionsWidget::DirectionsWidget(QWidget* parent, Picking picking)
     : QFrame(parent)
     , box(new QGroupBox(this))
+    , picking(picking)
 {
     qRegisterMetaType<Direction>("Direction");
     box->setFixedSize(58, 58);
@@ -26,7 +27,8 @@ DirectionsWidget::DirectionsWidget(QWidget* parent)
         connect(button, &QPushButton::clicked, this, &DirectionsWidget::slotClicked);
         buttons.append(button);
     }
-    buttons.at(current)->setChecked(true);
+    if (picking == OneCell)
+        buttons.at(current)->setChecked(true);
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -40,8 +42,29 @@ void DirectionsWidget::setDirection(Direction direction)
     current = direction;
 }
 
+int DirectionsWidget::cells() const
+{
+    int ticked = 0;
+    for (int cell = TopLeft; cell <= BottomRight; ++cell) {
+        if (buttons.at(cell)->isChecked())
+            ticked |= 1 << cell;
+    }
+    return ticked;
+}
+
+void DirectionsWidget::setCells(int cells)
+{
+    for (int cell = TopLeft; cell <= BottomRight; ++cell)
+        buttons.at(cell)->setChecked(cells & (1 << cell));
+}
+
 void DirectionsWidget::slotClicked()
 {
+    // A checkable button has toggled itself already.
+    if (picking == SeveralCells) {
+        emit cellsChanged(cells());
+        return;
+    }
     for (QPushButton* button : qAsConst(buttons))
         button->setChecked(false);
     if (auto* clicked = qobject_cast<QPushButton*>(sender()))

@@ -181,7 +181,7 @@
 <context>
     <name>BaseNode</name>
     <message>
-        <location filename="../../nodes/nodecontrols.cpp" line="+153"/>
+        <location filename="../../nodes/nodecontrols.cpp" line="+158"/>
         <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Keine Optionen&lt;/H2&gt;</translation>
     </message>
@@ -229,12 +229,12 @@
         <translation>kein Foto an Position %1</translation>
     </message>
     <message>
-        <location line="+30"/>
+        <location line="+28"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-118"/>
+        <location line="-116"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
@@ -259,7 +259,7 @@
         <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+46"/>
         <source>cannot write: %1 is a link</source>
         <translation>Schreiben nicht möglich: %1 ist eine Verknüpfung</translation>
     </message>
@@ -324,7 +324,7 @@
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="-189"/>
+        <location line="-187"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -1095,12 +1095,12 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+142"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+147"/>
         <source>Fewer options</source>
         <translation>Weniger Optionen</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="+52"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+59"/>
         <source>Bold</source>
         <translation>Fett</translation>
     </message>
@@ -1120,12 +1120,72 @@ Overwrite?</source>
         <translation>Zeichnen</translation>
     </message>
     <message>
+        <location line="+8"/>
+        <source>Tile:</source>
+        <translation>Kacheln:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Gap: </source>
+        <translation>Abstand: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Angle:</source>
+        <translation>Winkel:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Distance: </source>
+        <translation>Versatz: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Blur: </source>
+        <translation>Weichheit: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Outline</source>
+        <translation>Kontur</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Width: </source>
+        <translation>Breite: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Size of:</source>
+        <translation>Größe von:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Places:</source>
+        <translation>Orte:</translation>
+    </message>
+    <message>
         <location filename="../../nodes/wmrnode.cpp" line="+13"/>
         <source>Open a logo picture</source>
         <translation>Logobild öffnen</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="-10"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="-45"/>
         <source>X: </source>
         <translation>X: </translation>
     </message>
@@ -1225,6 +1285,96 @@ Overwrite?</source>
         <translation>Hintergrund hinter dem Text zeichnen</translation>
     </message>
     <message>
+        <location line="+137"/>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Size of, angle, tiles, shadow, outline, automatic color and position</source>
+        <translation>Größe von, Winkel, Kacheln, Schatten, Kontur, automatische Farbe und Position</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Long edge</source>
+        <translation>Lange Kante</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Short edge</source>
+        <translation>Kurze Kante</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>What the size is a percentage of: the same visual size on portrait and landscape photos with the long or the short edge</source>
+        <translation>Wovon die Größe ein Prozentsatz ist: mit der langen oder der kurzen Kante dieselbe sichtbare Größe auf Hoch- und Querformat</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Turns the mark about its center, counter-clockwise</source>
+        <translation>Dreht das Zeichen um seine Mitte, gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Repeats the mark over the whole photo; position and offsets set where the grid starts</source>
+        <translation>Wiederholt das Zeichen über das ganze Foto; Position und Versätze legen fest, wo das Raster beginnt</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Gap between the tiles in percent of the mark</source>
+        <translation>Abstand zwischen den Kacheln in Prozent des Zeichens</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Shadow color</source>
+        <translation>Schattenfarbe</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>How far the shadow lies right and down, in percent of the text height</source>
+        <translation>Wie weit der Schatten nach rechts unten liegt, in Prozent der Texthöhe</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>How soft the shadow is, in percent of the text height</source>
+        <translation>Wie weich der Schatten ist, in Prozent der Texthöhe</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Outline color</source>
+        <translation>Konturfarbe</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Width of the outline in percent of the text height</source>
+        <translation>Breite der Kontur in Prozent der Texthöhe</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Per photo, the text color or its light or dark opposite, whichever stands out more; the shadow and outline follow</source>
+        <translation>Je Foto die Textfarbe oder ihr helles bzw. dunkles Gegenstück, je nachdem, was sich besser abhebt; Schatten und Kontur folgen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Per photo, the ticked place with the least detail under the mark, the offsets kept</source>
+        <translation>Je Foto der angekreuzte Ort mit den wenigsten Details unter dem Zeichen; die Versätze bleiben</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Auto:</source>
+        <translation>Auto:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The places the automatic position chooses from</source>
+        <translation>Die Orte, unter denen die automatische Position wählt</translation>
+    </message>
+    <message>
         <location filename="../../nodes/params/watermarkoperation.cpp" line="-20"/>
         <source>Kind:</source>
         <translation>Art:</translation>
@@ -1275,7 +1425,7 @@ Overwrite?</source>
         <translation>Strecken:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+59"/>
+        <location filename="../../nodes/wmrnode.cpp" line="-141"/>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>

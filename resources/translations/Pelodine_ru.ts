@@ -181,7 +181,7 @@
 <context>
     <name>BaseNode</name>
     <message>
-        <location filename="../../nodes/nodecontrols.cpp" line="+153"/>
+        <location filename="../../nodes/nodecontrols.cpp" line="+158"/>
         <source>&lt;H2&gt;No options&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Нет параметров&lt;/H2&gt;</translation>
     </message>
@@ -229,12 +229,12 @@
         <translation>нет фото в позиции %1</translation>
     </message>
     <message>
-        <location line="+30"/>
+        <location line="+28"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-118"/>
+        <location line="-116"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
@@ -259,7 +259,7 @@
         <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+46"/>
         <source>cannot write: %1 is a link</source>
         <translation>запись невозможна: %1 — ссылка</translation>
     </message>
@@ -324,7 +324,7 @@
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="-189"/>
+        <location line="-187"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -1095,12 +1095,12 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+142"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+147"/>
         <source>Fewer options</source>
         <translation>Меньше параметров</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="+52"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="+59"/>
         <source>Bold</source>
         <translation>Жирный</translation>
     </message>
@@ -1120,12 +1120,72 @@ Overwrite?</source>
         <translation>Рисовать</translation>
     </message>
     <message>
+        <location line="+8"/>
+        <source>Tile:</source>
+        <translation>Плитка:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Gap: </source>
+        <translation>Зазор: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Angle:</source>
+        <translation>Угол:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Shadow</source>
+        <translation>Тень</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Distance: </source>
+        <translation>Сдвиг: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Blur: </source>
+        <translation>Размытие: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Outline</source>
+        <translation>Контур</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Width: </source>
+        <translation>Толщина: </translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Size of:</source>
+        <translation>Размер от:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Color</source>
+        <translation>Цвет</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Position</source>
+        <translation>Положение</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Places:</source>
+        <translation>Места:</translation>
+    </message>
+    <message>
         <location filename="../../nodes/wmrnode.cpp" line="+13"/>
         <source>Open a logo picture</source>
         <translation>Открыть изображение логотипа</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.cpp" line="-10"/>
+        <location filename="../../nodes/params/watermarkoperation.cpp" line="-45"/>
         <source>X: </source>
         <translation>X: </translation>
     </message>
@@ -1225,6 +1285,96 @@ Overwrite?</source>
         <translation>Рисовать фон под текстом</translation>
     </message>
     <message>
+        <location line="+137"/>
+        <source>More</source>
+        <translation>Ещё</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Size of, angle, tiles, shadow, outline, automatic color and position</source>
+        <translation>Размер от, угол, плитка, тень, контур, автоматический цвет и положение</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Width</source>
+        <translation>Ширины</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Long edge</source>
+        <translation>Длинной стороны</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Short edge</source>
+        <translation>Короткой стороны</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>What the size is a percentage of: the same visual size on portrait and landscape photos with the long or the short edge</source>
+        <translation>От чего берётся размер в процентах: с длинной или короткой стороной знак одного размера на вертикальных и горизонтальных фото</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Turns the mark about its center, counter-clockwise</source>
+        <translation>Поворачивает знак вокруг его центра против часовой стрелки</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Repeats the mark over the whole photo; position and offsets set where the grid starts</source>
+        <translation>Повторяет знак по всему фото; положение и смещения задают начало сетки</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Gap between the tiles in percent of the mark</source>
+        <translation>Зазор между плитками в процентах от знака</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Shadow color</source>
+        <translation>Цвет тени</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>How far the shadow lies right and down, in percent of the text height</source>
+        <translation>Насколько тень сдвинута вправо и вниз, в процентах от высоты текста</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>How soft the shadow is, in percent of the text height</source>
+        <translation>Насколько тень мягкая, в процентах от высоты текста</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Outline color</source>
+        <translation>Цвет контура</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Width of the outline in percent of the text height</source>
+        <translation>Толщина контура в процентах от высоты текста</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Per photo, the text color or its light or dark opposite, whichever stands out more; the shadow and outline follow</source>
+        <translation>Для каждого фото цвет текста или его светлая либо тёмная противоположность, смотря что заметнее; тень и контур следуют за ним</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Per photo, the ticked place with the least detail under the mark, the offsets kept</source>
+        <translation>Для каждого фото отмеченное место с наименьшим числом деталей под знаком; смещения сохраняются</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Auto:</source>
+        <translation>Авто:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The places the automatic position chooses from</source>
+        <translation>Места, из которых выбирает автоматическое положение</translation>
+    </message>
+    <message>
         <location filename="../../nodes/params/watermarkoperation.cpp" line="-20"/>
         <source>Kind:</source>
         <translation>Тип:</translation>
@@ -1275,7 +1425,7 @@ Overwrite?</source>
         <translation>Растянуть:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+59"/>
+        <location filename="../../nodes/wmrnode.cpp" line="-141"/>
         <source>Warning</source>
         <translation>Предупреждение</translation>
     </message>

@@ -20,6 +20,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QTimer>
 #include <QToolButton>
@@ -299,6 +300,17 @@ private slots:
         QVERIFY(panel->saveFlow("a.flow"));
         QVERIFY(FlowFile::readFlowFile(AppData::flowsFolder() + "a.flow", &text));
         QCOMPARE(batchOperationsFromFlow(text), operations);
+    }
+
+    // A flow from before the watermark's later keys, the sample one, opens and is saved byte
+    // for byte as it was; only the fonts are the ones this machine has.
+    void oldFlowSavedUnchanged()
+    {
+        panel->loadFlow(QString::fromUtf8(readFile(":/sample.flow")));
+        QVERIFY(panel->saveFlow("old.flow"));
+        const QRegularExpression fonts("<Font>[^<]*</Font>");
+        QCOMPARE(QString::fromUtf8(readFile(AppData::flowsFolder() + "old.flow")).remove(fonts),
+                 QString::fromUtf8(readFile(":/sample.flow")).remove(fonts));
     }
 
     void editing_data()

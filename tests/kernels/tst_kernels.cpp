@@ -160,14 +160,49 @@ WMRParams watermark(int mode, int size, int position, int xOffset = 0, int yOffs
     return params;
 }
 
-QRect redBounds(const QImage& image)
+QRect bounds(const QImage& image, QRgb color)
 {
     QRect bounds;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) == 0xffff0000)
+            if (image.pixel(x, y) == color)
                 bounds |= QRect(x, y, 1, 1);
     return bounds;
+}
+
+QRect redBounds(const QImage& image)
+{
+    return bounds(image, 0xffff0000);
+}
+
+// The first and last pixel of each red run along row y, or along column x when y is -1.
+QVector<QPair<int, int>> redRuns(const QImage& image, int x, int y)
+{
+    QVector<QPair<int, int>> runs;
+    const int length = y < 0 ? image.height() : image.width();
+    for (int i = 0; i < length; ++i) {
+        if (image.pixel(y < 0 ? x : i, y < 0 ? i : y) != 0xffff0000)
+            continue;
+        if (runs.isEmpty() || runs.last().second != i - 1)
+            runs.append({i, i});
+        runs.last().second = i;
+    }
+    return runs;
+}
+
+// Grey noise with one flat quadrant (0 top left .. 3 bottom right), no pixel of it red.
+QImage noiseBesideFlat(int width, int height, int flatQuadrant)
+{
+    std::mt19937 random(7);
+    QImage image(width, height, QImage::Format_ARGB32);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const bool flat = (x >= width / 2) == bool(flatQuadrant & 1) &&
+                              (y >= height / 2) == bool(flatQuadrant & 2);
+            const int level = flat ? 128 : int(random() % 256);
+            image.setPixel(x, y, qRgb(level, level, level));
+        }
+    return image;
 }
 
 } // namespace
@@ -445,6 +480,126 @@ private slots:
         QCOMPARE(result == paper, expected.isNull());
         QImage empty;
         QVERIFY(drawWatermark(empty, params).isNull());
+    }
+
+    void watermarkLaidOut_data()
+    {
+        // The red logo box (100 x 50 at Size 20 of 1000: 200 x 100, drawn 204 x 104) on a photo.
+        addColumns<WMRParams, QImage, QRect>("params", "photo", "expected");
+        const QImage wide = TestUtils::filledImage(1000, 500, 0xff204060);
+        // A quarter turn about the centre (500, 250) stands the box up: 104 x 204.
+        WMRParams params = watermark(1, 20, 4);
+        params.Angle = 90;
+        addRow("angle 90", params, wide, QRect(448, 148, 104, 204));
+        params.Angle = -90;
+        addRow("angle -90", params, wide, QRect(448, 148, 104, 204));
+        params.Angle = 400;
+        addRow("angle beyond 90 is 90", params, wide, QRect(448, 148, 104, 204));
+        // Size 30 of the width, the long or the short edge; the logo box is 4 wider.
+        const QImage landscape = TestUtils::filledImage(3000, 2000, 0xff204060);
+        const QImage portrait = TestUtils::filledImage(2000, 3000, 0xff204060);
+        const auto sized = [](int sizeOf) {
+            WMRParams sizedParams = watermark(1, 30, 0);
+            sizedParams.SizeOf = sizeOf;
+            return sizedParams;
+        };
+        addRow("width of landscape", sized(0), landscape, QRect(0, 0, 902, 452));
+        addRow("width of portrait", sized(0), portrait, QRect(0, 0, 602, 302));
+        addRow("long edge of landscape", sized(1), landscape, QRect(0, 0, 902, 452));
+        addRow("long edge of portrait", sized(1), portrait, QRect(0, 0, 902, 452));
+        addRow("short edge of landscape", sized(2), landscape, QRect(0, 0, 602, 302));
+        addRow("short edge of portrait", sized(2), portrait, QRect(0, 0, 602, 302));
+        // On 600 x 400 the box is 124 x 64: in a corner it shows 122 x 62. Among the corners the
+        // flat one wins; the offsets still apply (5 % of 400 = 20 to the right).
+        params = watermark(1, 20, 4);
+        params.AutoPosition = true;
+        addRow("flat top left", params, noiseBesideFlat(600, 400, 0), QRect(0, 0, 122, 62));
+        addRow("flat top right", params, noiseBesideFlat(600, 400, 1), QRect(478, 0, 122, 62));
+        addRow("flat bottom left", params, noiseBesideFlat(600, 400, 2), QRect(0, 338, 122, 62));
+        addRow("flat bottom right", params, noiseBesideFlat(600, 400, 3), QRect(478, 338, 122, 62));
+        params.XOffset = 5;
+        addRow("flat top right, offset", params, noiseBesideFlat(600, 400, 1),
+               QRect(498, 0, 102, 62));
+        params.XOffset = 0;
+        params.AutoPositions = 1 << 4 | 1 << 8;
+        addRow("only middle and bottom right", params, noiseBesideFlat(600, 400, 3),
+               QRect(478, 338, 122, 62));
+        params.AutoPositions = 0;
+        addRow("no cell ticked: the position", params, noiseBesideFlat(600, 400, 3),
+               QRect(238, 168, 124, 64));
+    }
+
+    void watermarkLaidOut()
+    {
+        auto [params, photo, expected] =
+            fetch<WMRParams, QImage, QRect>("params", "photo", "expected");
+        QImage image = photo;
+        QCOMPARE(redBounds(drawWatermark(image, params)), expected);
+    }
+
+    // Tiles of the 204 x 104 box with a gap of 50 %: steps of 306 and 156, every other row half
+    // a step (153) to the right, from the top left cell at (-2, -2).
+    void watermarkTiles()
+    {
+        WMRParams params = watermark(1, 20, 0);
+        params.Tile = true;
+        QImage image = TestUtils::filledImage(1000, 500, 0xff204060);
+        drawWatermark(image, params);
+        using Runs = QVector<QPair<int, int>>;
+        QCOMPARE(redRuns(image, 0, 50), (Runs{{0, 201}, {304, 507}, {610, 813}, {916, 999}}));
+        QCOMPARE(redRuns(image, 0, 200), (Runs{{0, 48}, {151, 354}, {457, 660}, {763, 966}}));
+        QCOMPARE(redRuns(image, 100, -1), (Runs{{0, 101}, {310, 413}}));
+        QCOMPARE(redRuns(image, 200, -1), (Runs{{0, 101}, {154, 257}, {310, 413}, {466, 499}}));
+        // A quarter turn swaps the steps: 156 across, 306 down.
+        params.Angle = 90;
+        image = TestUtils::filledImage(1000, 500, 0xff204060);
+        drawWatermark(image, params);
+        QCOMPARE(redRuns(image, 0, 150).mid(0, 3), (Runs{{48, 151}, {204, 307}, {360, 463}}));
+    }
+
+    // With the red box behind the text, its blue shadow shows as the box moved right and down by
+    // 20 % of the text height; transparency 100 hides shadow and text alike.
+    void watermarkShadow()
+    {
+        WMRParams params = watermark(0, 30, 4);
+        params.Shadow = true;
+        params.ShadowColor = Qt::blue;
+        params.ShadowDistance = 20;
+        params.ShadowBlur = 0;
+        const QImage paper = TestUtils::filledImage(1000, 500, 0xff204060);
+        QImage image = paper;
+        drawWatermark(image, params);
+        const QRect box = redBounds(image);
+        // The box is the text height plus the 2-pixel margins.
+        const int distance = (box.height() - 4) * 20 / 100;
+        QVERIFY(distance > 3);
+        QCOMPARE(bounds(image, 0xff0000ff), box.translated(distance, distance));
+        params.Transparency = 100;
+        image = paper;
+        QCOMPARE_IMAGES(drawWatermark(image, params), paper);
+    }
+
+    // White text gives way to black on a white photo and stays on a black one; black text turns
+    // white on black.
+    void watermarkAutoColor_data()
+    {
+        addColumns<QRgb, QRgb, QRgb>("photo", "chosen", "drawn");
+        addRow("white on white", 0xffffffff, 0xffffffff, 0xff000000);
+        addRow("white on black", 0xff000000, 0xffffffff, 0xffffffff);
+        addRow("black on black", 0xff000000, 0xff000000, 0xffffffff);
+        addRow("black on white", 0xffffffff, 0xff000000, 0xff000000);
+    }
+
+    void watermarkAutoColor()
+    {
+        auto [photo, chosen, drawn] = fetch<QRgb, QRgb, QRgb>("photo", "chosen", "drawn");
+        WMRParams params = watermark(0, 60, 4);
+        params.BackgroundEnabled = false;
+        params.Color = QColor::fromRgb(chosen);
+        params.AutoColor = true;
+        QImage image = TestUtils::filledImage(600, 400, photo);
+        drawWatermark(image, params);
+        QVERIFY(!bounds(image, drawn).isEmpty());
     }
 };
 

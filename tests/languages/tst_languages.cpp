@@ -21,9 +21,12 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProcess>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QSlider>
+
+#include <algorithm>
 
 using OrkWidgets::App;
 using TestUtils::addRow;
@@ -289,10 +292,21 @@ private slots:
         page.nodesOptionsPanel()->createNode("Watermark");
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));
-        const QList<QSlider*> sliders = page.nodesOptionsPanel()->findChildren<QSlider*>();
-        QCOMPARE(sliders.size(), 2);
-        for (const QSlider* slider : sliders)
+        const auto shownSliders = [&page] {
+            QList<QSlider*> shown = page.nodesOptionsPanel()->findChildren<QSlider*>();
+            shown.erase(std::remove_if(shown.begin(), shown.end(),
+                                       [](const QSlider* slider) { return !slider->isVisible(); }),
+                        shown.end());
+            return shown;
+        };
+        QCOMPARE(shownSliders().size(), 2);
+        for (const QSlider* slider : shownSliders())
             QVERIFY2(slider->width() >= 80, qPrintable(QString::number(slider->width())));
+        // The angle, among the further settings, keeps a shorter grip.
+        page.nodesOptionsPanel()->findChild<QPushButton*>("WMRMoreButton")->click();
+        QCOMPARE(shownSliders().size(), 1);
+        QVERIFY2(shownSliders().first()->width() >= 60,
+                 qPrintable(QString::number(shownSliders().first()->width())));
     }
 };
 

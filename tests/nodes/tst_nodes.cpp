@@ -23,6 +23,7 @@
 #include "wmrnode.h"
 
 #include <QBuffer>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -251,7 +252,10 @@ private slots:
             "Italic=yes|Underlined=yes|XOffset=-12|YOffset=7|Transparency=10|Color=#12ab34|"
             "Background=#fedcba|BackgroundEnabled=yes|Font=DejaVu Sans|ImageData=" +
             dataUri(TestUtils::halvesPicture(8, 2, 0xffffff00, 0xff0000ff), "PNG") +
-            "|ImageName=mylogo.jpg";
+            "|ImageName=mylogo.jpg|Tile=yes|TileGap=120|Angle=-30|Shadow=yes|"
+            "ShadowColor=#112233|ShadowDistance=12|ShadowBlur=5|Outline=yes|OutlineColor=#445566|"
+            "OutlineWidth=3|SizeOf=2|AutoColor=yes|AutoPosition=yes|"
+            "AutoPositions=TopMiddle,Middle,BottomRight";
         const QString none = "<H2>No options</H2>";
         addRow("RGB-Order", "RGB-Order", "Mode=2", "");
         addRow("BCS", "Brightness, Contrast, Saturation",
@@ -301,17 +305,29 @@ private slots:
         load(copy.get(), node->parametersText());
         QCOMPARE(copy->parametersText(), text);
 
-        // The options fit the area the main window leaves them, and no caption is cut off.
+        // The options fit the area the main window leaves them, and no caption is cut off; so do
+        // the watermark's further settings.
         panel.setFixedSize(731, 175);
         panel.show();
         QVERIFY(QTest::qWaitForWindowExposed(&panel));
-        QCOMPARE(panel.minimumSizeHint().boundedTo(panel.size()), panel.minimumSizeHint());
-        for (const QLabel* label : node->findChildren<QLabel*>()) {
-            const QRect shown(label->mapTo(&panel, QPoint()), label->size());
-            QVERIFY2(!label->isVisibleTo(node) ||
-                         (label->sizeHint().boundedTo(label->size()) == label->sizeHint() &&
-                          panel.rect().contains(shown)),
-                     qPrintable(label->text()));
+        auto* more = node->findChild<QPushButton*>("WMRMoreButton");
+        for (int round = 0; round < (more ? 2 : 1); ++round) {
+            if (round == 1) {
+                more->click();
+                QCoreApplication::processEvents();
+            }
+            QCOMPARE(panel.minimumSizeHint().boundedTo(panel.size()), panel.minimumSizeHint());
+            for (const QWidget* widget : node->findChildren<QWidget*>()) {
+                const auto* label = qobject_cast<const QLabel*>(widget);
+                const auto* box = qobject_cast<const QCheckBox*>(widget);
+                const QRect shown(widget->mapTo(&panel, QPoint()), widget->size());
+                QVERIFY2(!(label || box) || !widget->isVisibleTo(node) ||
+                             (widget->sizeHint().boundedTo(widget->size()) == widget->sizeHint() &&
+                              panel.rect().contains(shown)),
+                         qPrintable(label ? label->text()
+                                    : box ? box->text()
+                                          : QString()));
+            }
         }
         // The group box's own minimum holds its title with the check box.
         const auto* box = node->findChild<QGroupBox*>();
@@ -355,7 +371,9 @@ private slots:
             const QString text = node->parametersText();
             const QString what =
                 control->metaObject()->className() + QString(" ") + control->objectName();
-            if (changes.isEmpty() || (text == before && control->objectName() != "WMRShrinkButton"))
+            const bool viewOnly = control->objectName() == "WMRShrinkButton" ||
+                                  control->objectName() == "WMRMoreButton";
+            if (changes.isEmpty() || (text == before && !viewOnly))
                 faults << "silent " + what;
             // A value the controls allow reaches the batch as it is, at the ends too.
             const BatchOperations read =
@@ -428,6 +446,11 @@ private slots:
         // Written only when checked, after the others; a trailing "|" ends the text there.
         addRow("checked", rsz, "NoEnlarge=YES", "", "Height=50|NoEnlarge=yes|");
         addRow("unchecked", rsz, "NoEnlarge=yes|NoEnlarge=no", "", "Height=50|");
+        // The cells in reading order, each once; a text naming no cell leaves the set.
+        addRow("cells", wmr, "AutoPositions=Middle, TopLeft,Middle", "",
+               "ImageName=qubrast.png|AutoPositions=TopLeft,Middle|");
+        addRow("no cells", wmr, "AutoPositions=", "", "ImageName=qubrast.png|AutoPositions=|");
+        addRow("unknown cell", wmr, "AutoPositions=TopLeft,Top", "", "ImageName=qubrast.png|");
         addRow("text cut at what a line edit holds", wmr, "Text=" + QString(40000, 'a'), "",
                "Text=" + QString(32767, 'a'));
         // Right and left keep their own signs; past a full turn the angle starts again at 0.
@@ -579,6 +602,21 @@ private slots:
         QCOMPARE(shown(), QString("Kind:|Text:"));
         load(&node, "Mode=1");
         QCOMPARE(shown(), QString("Kind:|Logo:"));
+        // The further settings take the place of all others; a logo has no colour to choose.
+        node.findChild<QPushButton*>("WMRShrinkButton")->click();
+        node.findChild<QPushButton*>("WMRMoreButton")->click();
+        const auto boxes = [&node] {
+            QStringList texts;
+            for (const QCheckBox* box : node.findChildren<QCheckBox*>()) {
+                if (!box->isHidden())
+                    texts << box->text();
+            }
+            return texts.join('|');
+        };
+        QCOMPARE(shown(), QString("Size of:|Angle:|Tile:|Auto:|Places:"));
+        QCOMPARE(boxes(), QString("|Position"));
+        load(&node, "Mode=0");
+        QCOMPARE(boxes(), QString("|Shadow|Outline|Color|Position"));
     }
 
     void logo()
@@ -725,6 +763,10 @@ private slots:
         }
         // Keys written only when changed are not in a new node's text.
         keysOf["Resize"] << "NoEnlarge";
+        keysOf["Watermark"] << QString("Tile|TileGap|Angle|Shadow|ShadowColor|ShadowDistance|"
+                                       "ShadowBlur|Outline|OutlineColor|OutlineWidth|SizeOf|"
+                                       "AutoColor|AutoPosition|AutoPositions")
+                                   .split('|');
         const QStringList values =
             QString("-1000|-128|-127|-34|-33|-1|0|1|2|3|7|8|33|34|100|101|128|255|256|450|4999|"
                     "5000|5001|x||yes|no|YES|#12ab34|red|TopLeft|Middle|Nowhere|DejaVu Sans|"

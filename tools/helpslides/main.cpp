@@ -90,6 +90,17 @@ QString sampleFlowText()
     return OrkWidgets::App::resourceText(":/sample.flow");
 }
 
+// A flow of one watermark that shows the further settings: a turned text with a shadow, tiled.
+QString tiledFlowText()
+{
+    return "<OperationsFlow><Operation name=\"Watermark\" index=\"0\"><Parameters>"
+           "<Active>yes</Active><Mode>0</Mode><Size>24</Size><Text>\u00a9 Pelodine</Text>"
+           "<Bold>yes</Bold><Transparency>35</Transparency><Color>#ffffff</Color>"
+           "<Font>DejaVu Sans</Font><Tile>yes</Tile><TileGap>60</TileGap><Angle>30</Angle>"
+           "<Shadow>yes</Shadow><ShadowDistance>6</ShadowDistance><ShadowBlur>10</ShadowBlur>"
+           "</Parameters></Operation></OperationsFlow>";
+}
+
 void settle()
 {
     for (int i = 0; i < 5; ++i)
@@ -462,7 +473,8 @@ QPixmap summaryBar(MainPage& page)
 
 // The documentation screenshots at actual size, in each language: the main window with photos,
 // with its File menu open and without photos, the large view, a warning and the language
-// notice, every kind of node in the flow panel, the watermark options and the two dialogs.
+// notice, every kind of node in the flow panel, the watermark options and the two dialogs; a
+// tiled, turned watermark with a shadow in the main window and the large view.
 bool writeDocs(const QString& folder, const QList<QUrl>& photos)
 {
     OrkWidgets::TranslationsManager* translations = OrkWidgets::App::instance()->translations();
@@ -502,6 +514,17 @@ bool writeDocs(const QString& folder, const QList<QUrl>& photos)
             shots << qMakePair(QString("results-grid"), resultsGrid(sample.page));
             shots << qMakePair(QString("summary-bar"), summaryBar(sample.page));
             shots << qMakePair(QString("watermark-macros"), watermarkMacros(sample.page));
+        }
+        {
+            Session tiled(photos, {});
+            tiled.page.flowPanel()->loadFlow(tiledFlowText());
+            tiled.selectNode(0);
+            tiled.page.nodesOptionsPanel()->findChild<QPushButton*>("WMRMoreButton")->click();
+            settle();
+            shots << qMakePair(QString("mainwindow-tiled"), tiled.page.grab());
+            shots << qMakePair(QString("largeview-tiled"), largeView(tiled.page));
+            shots << qMakePair(QString("watermark-more-options"),
+                               tiled.page.nodesOptionsPanel()->grab());
         }
         {
             MainPage empty;

@@ -27,6 +27,24 @@ struct WMRParams
     bool BackgroundEnabled = false;
     bool Expand = false; // logo mode: stretch the logo over the whole image
     QImage ImageData;    // the logo picture
+
+    // Added later; each starts at the value that leaves a watermark as it was without it.
+    bool Tile = false;   // the mark repeated in a grid over the whole image
+    int TileGap = 50;    // between tiles, percent of the mark's size, 0..200
+    int Angle = 0;       // degrees, -90..90, positive turns counter-clockwise
+    bool Shadow = false; // text only, as are the outline values
+    QColor ShadowColor = Qt::black;
+    int ShadowDistance = 8; // percent of the text height, right and down, 0..50
+    int ShadowBlur = 8;     // percent of the text height, 0..50
+    bool Outline = false;
+    QColor OutlineColor = Qt::black;
+    int OutlineWidth = 4;            // percent of the text height, 0..20
+    int SizeOf = 0;                  // Size taken of 0 the width, 1 the long edge, 2 the short edge
+    bool AutoColor = false;          // Color or its opposite, whichever stands out more
+    bool AutoPosition = false;       // the allowed cell with the least detail under the mark
+    int AutoPositions = CornerCells; // the allowed cells, bit n for cell n
+
+    static constexpr int CornerCells = 1 << 0 | 1 << 2 | 1 << 6 | 1 << 8;
 };
 
 } // namespace OrkGraphX
