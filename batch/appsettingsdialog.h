@@ -1,5 +1,5 @@
 // The output settings: format and JPEG quality, renaming and numbering, opening the folder,
-// the largest photo and the metadata the results keep.
+// the largest photo, the metadata the results keep, the folder they go into and their colours.
 #pragma once
 
 #include <QDialog>
@@ -44,4 +44,7 @@ private:
     QComboBox* metadataCombo = nullptr;
     QLineEdit* artistEdit = nullptr;
     QLineEdit* copyrightEdit = nullptr;
+    QLineEdit* saveIntoEdit = nullptr;
+    QCheckBox* keepFoldersBox = nullptr;
+    QCheckBox* convertToSrgbBox = nullptr;
 };

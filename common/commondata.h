@@ -2,6 +2,7 @@
 // preview-mode flag and the photo list model. Created on first use, never destroyed.
 #pragma once
 
+#include <QHash>
 #include <QString>
 
 class ItemsModel;
@@ -16,6 +17,8 @@ public:
     // 1 while the live preview runs on a reduced copy; 0 while the large view wants full size.
     int previewMode = 1;
     QString displayName;
+    // The folder given as input that a photo of the list was found in, by the photo's path.
+    QHash<QString, QString> inputFolders;
 
     ItemsModel* itemsModel();
 

@@ -105,7 +105,8 @@ void Representor::slotRunBatchClicked()
     // Without photos a run would only leave an empty folder behind.
     if (photos.isEmpty())
         return;
-    batchDialog->startBatch(batchOperations(optionsPanel->flow()), photos);
+    batchDialog->startBatch(batchOperations(optionsPanel->flow()), photos,
+                            CommonData::instance()->inputFolders);
     batchDialog->exec();
 }
 

@@ -8,11 +8,13 @@
 #include "flowfile.h"
 #include "flowoperations.h"
 #include "outputsettings.h"
+#include "photofiles.h"
 #include "testutils.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QDateTime>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QSettings>
@@ -20,6 +22,7 @@
 
 #include <exiv2/exiv2.hpp>
 
+#include <cmath>
 #include <memory>
 
 using OrkWidgets::App;
@@ -53,6 +56,17 @@ void store(const QString& settings)
     for (const auto& [key, value] : TestUtils::keyValues(settings))
         if (!key.isEmpty())
             OrkTools::AppData::writeSetting(key, value);
+}
+
+// The files below folder by their paths relative to it, in name order.
+QString treeOf(const QString& folder)
+{
+    QStringList names;
+    QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        names << QDir(folder).relativeFilePath(files.next());
+    names.sort();
+    return names.join(' ');
 }
 
 // A 40 x 30 Adobe RGB JPEG as a camera writes it (Orientation 6: shown 30 wide, 40 high), with
@@ -303,19 +317,22 @@ private slots:
         }
         // Without the option the tool's defaults hold, whatever the window has stored.
         const QString renamePng = "KeyRename=true|KeyNewName=S|KeyFormat=PNG|KeyQuality=30";
-        const QString jpegs = "photo0.jpeg photo1.jpeg photo2.jpeg";
-        addRow("stored not asked for", renamePng, "", "", jpegs);
+        // Without the window's settings the tool keeps the folder's tree, and so does the window
+        // when asked to.
+        const QString jpegs = "photo0.jpeg photo1.jpeg sub/photo2.jpeg";
+        addRow("stored not asked for", renamePng, "", "KeyKeepFolders=true", jpegs);
         addRow("no-rename over stored", renamePng, window + " --no-rename", "KeyFormat=PNG",
                "photo0.png photo1.png photo2.png");
-        addRow("flow by name", "", "--flow job", "", jpegs);
-        addRow("flow by file name", "", "--flow job.flow", "", jpegs);
+        addRow("flow by name", "", "--flow job", "KeyKeepFolders=true", jpegs);
+        addRow("flow by file name", "", "--flow job.flow", "KeyKeepFolders=true", jpegs);
         addRow("renamed even, stored", "KeyRename=true|KeyNewName=S|KeyNumbers=2", window,
                "KeyRename=true|KeyNewName=S|KeyNumbers=2", "S2.jpeg S4.jpeg S6.jpeg");
         addRow("options over stored", "KeyFormat=BMP|KeyQuality=80",
                window + " --format jpeg --quality 30 --rename S --numbers odd",
                "KeyQuality=30|KeyRename=true|KeyNewName=S|KeyNumbers=1", "S1.jpeg S3.jpeg S5.jpeg");
-        addRow("numbers all", "", "--rename S --numbers all", "KeyRename=true|KeyNewName=S",
-               "S0.jpeg S1.jpeg S2.jpeg");
+        addRow("numbers all", "", "--rename S --numbers all",
+               "KeyRename=true|KeyNewName=S|KeyKeepFolders=true", "S0.jpeg S1.jpeg sub/S2.jpeg");
+        addRow("flat", "", "--no-keep-folders", "", "photo0.jpeg photo1.jpeg photo2.jpeg");
     }
 
     // The window's batch with the window settings, and pelodine-batch with the options over the
@@ -331,8 +348,10 @@ private slots:
         BatchWorker worker;
         const QString windowFolder = root->path() + "/window/";
         QDir().mkpath(windowFolder);
+        QHash<QString, QString> foundIn;
+        PhotoFiles::expandFolders(urls({in}), &foundIn);
         worker.prepare(OutputSettings::load(), windowFolder, urls(photos),
-                       batchOperationsFromFlow(watermarkFlow));
+                       batchOperationsFromFlow(watermarkFlow), foundIn);
         worker.slotDoWork();
 
         store(stored);
@@ -340,8 +359,8 @@ private slots:
         if (!options.contains("--flow"))
             arguments << "--flow" << flow;
         QCOMPARE(run(arguments + QStringList{"--output", out, in}).exitCode, 0);
-        QCOMPARE(fileNames(out), files);
-        QCOMPARE(fileNames(windowFolder), files);
+        QCOMPARE(treeOf(out), files);
+        QCOMPARE(treeOf(windowFolder), files);
         for (const QString& name : files.split(' '))
             QVERIFY2(readFile(out + name) == readFile(windowFolder + name), qPrintable(name));
         const QImage first(out + files.section(' ', 0, 0));
@@ -360,7 +379,7 @@ private slots:
         QVERIFY2(QDateTime::fromString(folders.first(), "yyyy-MM-dd_hh-mm-ss").isValid(),
                  qPrintable(folders.first()));
         const QString folder = OrkTools::AppData::outputBaseFolder() + folders.first() + "/";
-        QCOMPARE(fileNames(folder), QString("photo0.jpeg photo1.jpeg photo2.jpeg"));
+        QCOMPARE(treeOf(folder), QString("photo0.jpeg photo1.jpeg sub/photo2.jpeg"));
         const QStringList expected{"1 of 3: " + photos.at(0), "2 of 3: " + photos.at(1),
                                    "3 of 3: " + photos.at(2),
                                    "3 of 3 photos written into " + folder};
@@ -432,12 +451,112 @@ private slots:
         QVERIFY(found.keys().filter("Exif.Thumbnail.").isEmpty());
         QCOMPARE(readFile(source), before);
 
-        // An upright photo keeps its colour profile past the metadata.
+        // The photo keeps its colour profile past the turn, the flow and the metadata, upright
+        // or not.
         const QString upright = writeCameraPhoto(in + "/up.jpg", 1);
         QCOMPARE(run(arguments.replaceInStrings(source, upright)).exitCode, 0);
-        if (format != "XPM")
-            QCOMPARE(QImage(out + "up." + format.toLower()).colorSpace().primaries(),
-                     QColorSpace::Primaries::AdobeRgb);
+        for (const QString& written : {result, out + "up." + format.toLower()}) {
+            if (format != "XPM")
+                QCOMPARE(QImage(written).colorSpace().primaries(),
+                         QColorSpace::Primaries::AdobeRgb);
+        }
+    }
+
+    // Adobe RGB (1998) to sRGB by the published matrices: the gamma 563/256 undone, to XYZ (D65),
+    // to linear sRGB, clipped, through the sRGB curve. Pure red lies outside sRGB and stays
+    // (255, 0, 0); (100, 150, 200) becomes (66, 151, 203). A profile that cannot be read leaves
+    // the pixels as they are, taken as sRGB.
+    void convertToSrgb()
+    {
+        const double adobeToXyz[3][3] = {{0.5767309, 0.1855540, 0.1881852},
+                                         {0.2973769, 0.6273491, 0.0752741},
+                                         {0.0270343, 0.0706872, 0.9911085}};
+        const double xyzToSrgb[3][3] = {{3.2404542, -1.5371385, -0.4985314},
+                                        {-0.9692660, 1.8760108, 0.0415560},
+                                        {0.0556434, -0.2040259, 1.0572252}};
+        const auto expected = [&](const QVector<int>& adobe) {
+            double xyz[3] = {};
+            for (int i = 0; i < 3; ++i) {
+                for (int j = 0; j < 3; ++j)
+                    xyz[i] += adobeToXyz[i][j] * std::pow(adobe[j] / 255.0, 563.0 / 256);
+            }
+            QVector<int> srgb;
+            for (int i = 0; i < 3; ++i) {
+                double linear = 0;
+                for (int j = 0; j < 3; ++j)
+                    linear += xyzToSrgb[i][j] * xyz[j];
+                linear = qBound(0.0, linear, 1.0);
+                srgb << qRound(255 * (linear <= 0.0031308
+                                          ? 12.92 * linear
+                                          : 1.055 * std::pow(linear, 1 / 2.4) - 0.055));
+            }
+            return srgb;
+        };
+        QImage adobe = TestUtils::filledImage(2, 1, qRgb(255, 0, 0));
+        adobe.setPixel(1, 0, qRgb(100, 150, 200));
+        adobe.setColorSpace(QColorSpace::AdobeRgb);
+        TestUtils::writeImage(in + "/adobe.png", adobe);
+        adobe.setColorSpace(QColorSpace::fromIccProfile("acspbroken profile"));
+        adobe.save(in + "/broken.jpg", "JPEG", 100);
+        const QString none = TestUtils::writeFile(in + "/none.flow", "<OperationsFlow/>");
+        QCOMPARE(run({"--srgb", "--format", "PNG", "--flow", none, "--output", out, in}).exitCode,
+                 0);
+
+        const QImage converted(out + "adobe.png");
+        QCOMPARE(converted.colorSpace(), QColorSpace(QColorSpace::SRgb));
+        for (const QVector<int>& colour : {QVector<int>{255, 0, 0}, QVector<int>{100, 150, 200}}) {
+            const QRgb pixel = converted.pixel(colour[0] == 255 ? 0 : 1, 0);
+            const QVector<int> want = expected(colour);
+            QVERIFY2(qAbs(qRed(pixel) - want[0]) <= 2 && qAbs(qGreen(pixel) - want[1]) <= 2 &&
+                         qAbs(qBlue(pixel) - want[2]) <= 2,
+                     qPrintable(QString::number(pixel, 16)));
+        }
+        const QImage kept(out + "broken.png");
+        QCOMPARE(kept.colorSpace(), QColorSpace(QColorSpace::SRgb));
+        QCOMPARE(kept.pixel(1, 0), QImage(in + "/broken.jpg").pixel(1, 0));
+    }
+
+    // A photo found in a subfolder of a folder given goes into that subfolder of the output
+    // folder, unless asked otherwise; a link there is not gone through.
+    void keepFolders()
+    {
+        const QStringList photos = writePhotos();
+        photo("sub/deeper/photo3.png");
+        const QString none = TestUtils::writeFile(root->path() + "/none.flow", "<OperationsFlow/>");
+        const QStringList arguments{"--flow", none, "--format", "PNG", in};
+        QCOMPARE(run(arguments + QStringList{"--output", out}).exitCode, 0);
+        QCOMPARE(treeOf(out),
+                 QString("photo0.png photo1.png sub/deeper/photo3.png sub/photo2.png"));
+
+        const QString linked = root->path() + "/linked/";
+        const QString elsewhere = root->path() + "/elsewhere";
+        QDir().mkpath(elsewhere);
+        QDir().mkpath(linked);
+        QVERIFY(QFile::link(elsewhere, linked + "sub"));
+        const Outcome outcome = run(arguments + QStringList{"--output", linked});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.err.contains(photos.at(2) + ": cannot write: " + linked + "sub is a link"),
+                 qPrintable(outcome.err));
+        QCOMPARE(treeOf(elsewhere), QString());
+    }
+
+    // The window's chosen folder takes the results without a time-stamped folder; a file there
+    // that the run did not write stays, and the result goes beside it.
+    void saveIntoTheChosenFolder()
+    {
+        const QString earlier = TestUtils::writeFile(out + "photo0.png", "kept");
+        store("KeyOpenLocation=false|KeyFormat=PNG|KeyKeepFolders=true|KeySaveInto=" + out);
+        writePhotos();
+        QHash<QString, QString> foundIn;
+        const QList<QUrl> photos = PhotoFiles::expandFolders(urls({in}), &foundIn);
+        BatchDialog dialog;
+        dialog.startBatch({}, photos, foundIn);
+        dialog.open();
+        QTRY_VERIFY_WITH_TIMEOUT(!dialog.isVisible(), 20000);
+        QCOMPARE(dialog.destinationFolder(), out);
+        QCOMPARE(treeOf(out), QString("photo0 (2).png photo0.png photo1.png sub/photo2.png"));
+        QCOMPARE(readFile(earlier), QByteArray("kept"));
+        QVERIFY(!QDir(OrkTools::AppData::outputBaseFolder()).exists());
     }
 
     // Formats without transparency lay a clear photo on the background (white unless chosen);
