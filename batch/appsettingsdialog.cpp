@@ -74,6 +74,9 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
 
     saveIntoEdit = new QLineEdit;
     saveIntoEdit->setPlaceholderText(tr("A new folder for each run"));
+    // Wide enough to show what an empty field means.
+    saveIntoEdit->setMinimumWidth(
+        saveIntoEdit->fontMetrics().horizontalAdvance(saveIntoEdit->placeholderText()) + 16);
     auto* browseButton = new QPushButton(tr("Browse..."));
     auto* saveIntoRow = new QHBoxLayout;
     saveIntoRow->addWidget(saveIntoEdit);

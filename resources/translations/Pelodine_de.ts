@@ -4,7 +4,7 @@
 <context>
     <name>AppSettingsDialog</name>
     <message>
-        <location filename="../../batch/appsettingsdialog.cpp" line="+22"/>
+        <location filename="../../batch/appsettingsdialog.cpp" line="+23"/>
         <source> Settings</source>
         <translation> Einstellungen</translation>
     </message>
@@ -129,7 +129,42 @@
         <translation>Copyright:</translation>
     </message>
     <message>
+        <location line="+3"/>
+        <source>A new folder for each run</source>
+        <translation>Neuer Ordner je Durchlauf</translation>
+    </message>
+    <message>
         <location line="+1"/>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Keep folder structure</source>
+        <translation>Ordnerstruktur beibehalten</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A photo from a subfolder of a folder you added goes into the same subfolder of the results</source>
+        <translation>Ein Foto aus einem Unterordner eines hinzugefügten Ordners kommt in denselben Unterordner der Ergebnisse</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Convert to sRGB</source>
+        <translation>In sRGB umwandeln</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Colours converted from the photo&apos;s profile to sRGB, as the web expects</source>
+        <translation>Farben vom Profil des Fotos nach sRGB umgerechnet, wie es das Web erwartet</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Save into:</source>
+        <translation>Speichern in:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Ok</source>
         <translation>OK</translation>
     </message>
@@ -137,6 +172,11 @@
         <location line="+2"/>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Save into</source>
+        <translation>Speichern in</translation>
     </message>
 </context>
 <context>
@@ -190,18 +230,18 @@
     </message>
     <message>
         <location line="+11"/>
-        <location line="+51"/>
+        <location line="+55"/>
         <location line="+42"/>
         <source>Pause</source>
         <translation>Pause</translation>
     </message>
     <message>
-        <location line="-90"/>
+        <location line="-94"/>
         <source>Stop</source>
         <translation>Stopp</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+52"/>
         <source>Resume</source>
         <translation>Fortsetzen</translation>
     </message>
@@ -219,17 +259,17 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+129"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+189"/>
         <source>no photo at position %1</source>
         <translation>kein Foto an Position %1</translation>
     </message>
     <message>
-        <location line="+26"/>
+        <location line="+29"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-141"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
@@ -254,12 +294,23 @@
         <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+26"/>
+        <source>cannot write: the photo is not inside %1</source>
+        <translation>Schreiben nicht möglich: das Foto liegt nicht in %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <location line="+56"/>
         <source>cannot write: %1 is a link</source>
         <translation>Schreiben nicht möglich: %1 ist eine Verknüpfung</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="-55"/>
+        <source>cannot create the folder %1</source>
+        <translation>der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <location line="+57"/>
         <source>cannot write: %1 is not a regular file</source>
         <translation>Schreiben nicht möglich: %1 ist keine normale Datei</translation>
     </message>
@@ -294,7 +345,7 @@
         <translation>nicht lesbar: %1</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+4"/>
         <source>unreadable: a drawing (SVG), not a photo</source>
         <translation>nicht lesbar: eine Zeichnung (SVG), kein Foto</translation>
     </message>
@@ -309,12 +360,12 @@
         <translation>nicht lesbar: kein Foto, das dieses Programm lesen kann</translation>
     </message>
     <message>
-        <location line="-24"/>
+        <location line="-23"/>
         <source>unreadable: no such file</source>
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="+60"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -371,17 +422,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+84"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+93"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Fotos hierher ziehen&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="-64"/>
+        <location line="-73"/>
         <source>Click to open the photos</source>
         <translation>Klicken, um Fotos zu öffnen</translation>
     </message>
     <message>
-        <location line="+69"/>
+        <location line="+78"/>
         <source>Open the photos</source>
         <translation>Fotos öffnen</translation>
     </message>
@@ -1185,7 +1236,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+65"/>
+        <location filename="../../app/batchmain.cpp" line="+68"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1279,6 +1330,21 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
     </message>
     <message>
         <location line="+4"/>
+        <source>Convert each photo from its colour profile to sRGB before the flow and embed sRGB, as the web expects; a photo without a profile is taken as sRGB. Without it the photo&apos;s own profile is embedded.</source>
+        <translation>Jedes Foto vor dem Ablauf von seinem Farbprofil nach sRGB umrechnen und sRGB einbetten, wie es das Web erwartet; ein Foto ohne Profil gilt als sRGB. Ohne diese Option wird das eigene Profil des Fotos eingebettet.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Write a photo found in a subfolder of a FOLDER given into the same subfolder below the output folder. The default, unless --use-window-settings says otherwise.</source>
+        <translation>Ein Foto aus einem Unterordner eines angegebenen FOLDER in denselben Unterordner unter dem Ausgabeordner schreiben. Standard, sofern --use-window-settings nichts anderes sagt.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Write every photo straight into the output folder.</source>
+        <translation>Jedes Foto direkt in den Ausgabeordner schreiben.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Run a flow that holds something that cannot be taken (an unknown operation, a logo that does not decode) without it, instead of stopping.</source>
         <translation>Einen Ablauf, der etwas enthält, das nicht übernommen werden kann (eine unbekannte Operation, ein Logo, das sich nicht dekodieren lässt), ohne dieses ausführen, statt anzuhalten.</translation>
     </message>
@@ -1308,17 +1374,17 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>%1 ist kein Ablauf: kein wohlgeformtes XML</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+24"/>
         <source>unknown format %1</source>
         <translation>unbekanntes Format %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+5"/>
         <source>the quality must be 1 to 100</source>
         <translation>die Qualität muss zwischen 1 und 100 liegen</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>--rename and --no-rename exclude each other</source>
         <translation>--rename und --no-rename schließen einander aus</translation>
     </message>
@@ -1333,22 +1399,22 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>die Nummern müssen all, odd oder even sein</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+4"/>
         <source>the megapixels must be a whole number of at least 1</source>
         <translation>die Megapixel müssen eine ganze Zahl von mindestens 1 sein</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>die Metadaten müssen keep, strip-location oder strip sein</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>the kilobytes must be a whole number of at least 1</source>
         <translation>die Kilobyte müssen eine ganze Zahl von mindestens 1 sein</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unknown colour %1</source>
         <translation>unbekannte Farbe %1</translation>
     </message>
@@ -1358,7 +1424,12 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>die Endung muss format oder short sein</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+6"/>
+        <source>--keep-folders and --no-keep-folders exclude each other</source>
+        <translation>--keep-folders und --no-keep-folders schließen einander aus</translation>
+    </message>
+    <message>
+        <location line="+60"/>
         <source>no photos given</source>
         <translation>keine Fotos angegeben</translation>
     </message>
@@ -1368,22 +1439,22 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>pelodine-batch: nichts geschrieben; --lenient führt den Ablauf ohne das Ausgelassene aus</translation>
     </message>
     <message>
-        <location line="+69"/>
+        <location line="+70"/>
         <source>see pelodine-batch --help</source>
         <translation>siehe pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-124"/>
+        <location line="-127"/>
         <source>no photos in the folders given</source>
         <translation>keine Fotos in den angegebenen Ordnern</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="+19"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="+64"/>
+        <location line="+65"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>%1 von %2 Fotos nach %3 geschrieben</translation>
     </message>

@@ -4,7 +4,7 @@
 <context>
     <name>AppSettingsDialog</name>
     <message>
-        <location filename="../../batch/appsettingsdialog.cpp" line="+22"/>
+        <location filename="../../batch/appsettingsdialog.cpp" line="+23"/>
         <source> Settings</source>
         <translation> Настройки</translation>
     </message>
@@ -129,7 +129,42 @@
         <translation>Авторское право:</translation>
     </message>
     <message>
+        <location line="+3"/>
+        <source>A new folder for each run</source>
+        <translation>Новая папка для каждого запуска</translation>
+    </message>
+    <message>
         <location line="+1"/>
+        <source>Browse...</source>
+        <translation>Обзор...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Keep folder structure</source>
+        <translation>Сохранять структуру папок</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A photo from a subfolder of a folder you added goes into the same subfolder of the results</source>
+        <translation>Фото из подпапки добавленной папки попадает в ту же подпапку результатов</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Convert to sRGB</source>
+        <translation>Преобразовать в sRGB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Colours converted from the photo&apos;s profile to sRGB, as the web expects</source>
+        <translation>Цвета переводятся из профиля фото в sRGB, как того ждёт веб</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Save into:</source>
+        <translation>Сохранять в:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Ok</source>
         <translation>ОК</translation>
     </message>
@@ -137,6 +172,11 @@
         <location line="+2"/>
         <source>Cancel</source>
         <translation>Отмена</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Save into</source>
+        <translation>Сохранять в</translation>
     </message>
 </context>
 <context>
@@ -190,18 +230,18 @@
     </message>
     <message>
         <location line="+11"/>
-        <location line="+51"/>
+        <location line="+55"/>
         <location line="+42"/>
         <source>Pause</source>
         <translation>Пауза</translation>
     </message>
     <message>
-        <location line="-90"/>
+        <location line="-94"/>
         <source>Stop</source>
         <translation>Стоп</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+52"/>
         <source>Resume</source>
         <translation>Продолжить</translation>
     </message>
@@ -219,17 +259,17 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+129"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+189"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
     <message>
-        <location line="+26"/>
+        <location line="+29"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-91"/>
+        <location line="-141"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
@@ -254,12 +294,23 @@
         <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
     </message>
     <message>
-        <location line="+44"/>
+        <location line="+26"/>
+        <source>cannot write: the photo is not inside %1</source>
+        <translation>запись невозможна: фото лежит не внутри %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <location line="+56"/>
         <source>cannot write: %1 is a link</source>
         <translation>запись невозможна: %1 — ссылка</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="-55"/>
+        <source>cannot create the folder %1</source>
+        <translation>не удаётся создать папку %1</translation>
+    </message>
+    <message>
+        <location line="+57"/>
         <source>cannot write: %1 is not a regular file</source>
         <translation>запись невозможна: %1 — не обычный файл</translation>
     </message>
@@ -294,7 +345,7 @@
         <translation>не читается: %1</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+4"/>
         <source>unreadable: a drawing (SVG), not a photo</source>
         <translation>не читается: рисунок (SVG), а не фотография</translation>
     </message>
@@ -309,12 +360,12 @@
         <translation>не читается: это не фото, которое может прочитать программа</translation>
     </message>
     <message>
-        <location line="-24"/>
+        <location line="-23"/>
         <source>unreadable: no such file</source>
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="+60"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -371,17 +422,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+84"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+93"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Перетащите фото сюда&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="-64"/>
+        <location line="-73"/>
         <source>Click to open the photos</source>
         <translation>Нажмите, чтобы открыть фото</translation>
     </message>
     <message>
-        <location line="+69"/>
+        <location line="+78"/>
         <source>Open the photos</source>
         <translation>Открыть фото</translation>
     </message>
@@ -1185,7 +1236,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+65"/>
+        <location filename="../../app/batchmain.cpp" line="+68"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1279,6 +1330,21 @@ A source photo is never written over; nothing is written through a link, outside
     </message>
     <message>
         <location line="+4"/>
+        <source>Convert each photo from its colour profile to sRGB before the flow and embed sRGB, as the web expects; a photo without a profile is taken as sRGB. Without it the photo&apos;s own profile is embedded.</source>
+        <translation>Перевести каждое фото из его цветового профиля в sRGB до сценария и встроить sRGB, как того ждёт веб; фото без профиля считается sRGB. Без этого параметра встраивается собственный профиль фото.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Write a photo found in a subfolder of a FOLDER given into the same subfolder below the output folder. The default, unless --use-window-settings says otherwise.</source>
+        <translation>Записывать фото из подпапки указанной FOLDER в ту же подпапку внутри папки вывода. По умолчанию, если --use-window-settings не говорит иного.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Write every photo straight into the output folder.</source>
+        <translation>Записывать каждое фото прямо в папку вывода.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Run a flow that holds something that cannot be taken (an unknown operation, a logo that does not decode) without it, instead of stopping.</source>
         <translation>Выполнять поток, содержащий то, что нельзя принять (неизвестную операцию, недекодируемый логотип), без этого, а не останавливаться.</translation>
     </message>
@@ -1308,17 +1374,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>%1 — не сценарий: это некорректный XML</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+24"/>
         <source>unknown format %1</source>
         <translation>неизвестный формат %1</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+5"/>
         <source>the quality must be 1 to 100</source>
         <translation>качество должно быть от 1 до 100</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+2"/>
         <source>--rename and --no-rename exclude each other</source>
         <translation>--rename и --no-rename исключают друг друга</translation>
     </message>
@@ -1333,22 +1399,22 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>номера должны быть all, odd или even</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+4"/>
         <source>the megapixels must be a whole number of at least 1</source>
         <translation>мегапиксели должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>the metadata must be keep, strip-location or strip</source>
         <translation>метаданные должны быть keep, strip-location или strip</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+4"/>
         <source>the kilobytes must be a whole number of at least 1</source>
         <translation>килобайты должны быть целым числом не меньше 1</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unknown colour %1</source>
         <translation>неизвестный цвет %1</translation>
     </message>
@@ -1358,7 +1424,12 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>расширение должно быть format или short</translation>
     </message>
     <message>
-        <location line="+54"/>
+        <location line="+6"/>
+        <source>--keep-folders and --no-keep-folders exclude each other</source>
+        <translation>--keep-folders и --no-keep-folders исключают друг друга</translation>
+    </message>
+    <message>
+        <location line="+60"/>
         <source>no photos given</source>
         <translation>фото не указаны</translation>
     </message>
@@ -1368,22 +1439,22 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>pelodine-batch: ничего не записано; --lenient выполняет поток без пропущенного</translation>
     </message>
     <message>
-        <location line="+69"/>
+        <location line="+70"/>
         <source>see pelodine-batch --help</source>
         <translation>см. pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-124"/>
+        <location line="-127"/>
         <source>no photos in the folders given</source>
         <translation>в указанных папках нет фото</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="+19"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+64"/>
+        <location line="+65"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>записано %1 из %2 фото в %3</translation>
     </message>
