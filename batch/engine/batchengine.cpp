@@ -43,6 +43,7 @@ QImage laidOn(const QImage& image, const QColor& background)
         if (std::all_of(row, row + words.width(), [](QRgb pixel) { return qAlpha(pixel) == 255; }))
             continue;
         QImage result(words.size(), QImage::Format_RGB32);
+        result.setColorSpace(image.colorSpace());
         result.fill(background);
         QPainter(&result).drawImage(0, 0, words);
         return result;
@@ -240,7 +241,8 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
         buffer.open(QIODevice::WriteOnly);
         QImageWriter writer(&buffer, settings.format.toLatin1());
         writer.setQuality(quality);
-        return writer.write(written) ? metadata.embedInto(encoded, image.size(), settings)
+        return writer.write(written) ? metadata.embedInto(encoded, image.size(), settings,
+                                                          image.colorSpace().iccProfile())
                                      : QByteArray();
     };
     // With a size budget the highest quality whose file fits is searched by bisection (seven

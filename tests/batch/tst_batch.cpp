@@ -510,6 +510,18 @@ private slots:
         QCOMPARE(kept.pixel(1, 0), QImage(in + "/broken.jpg").pixel(1, 0));
     }
 
+    // A profile Qt cannot read (here one that claims CMYK) still travels into a TIFF.
+    void unreadableProfileTravels()
+    {
+        QByteArray profile = QColorSpace(QColorSpace::AdobeRgb).iccProfile();
+        profile.replace(16, 4, "CMYK");
+        QImage image = TestUtils::filledImage(4, 2, 0xffc86432);
+        image.setColorSpace(QColorSpace::fromIccProfile(profile));
+        const QString source = TestUtils::writeImage(in + "/cmyk.jpg", image);
+        QCOMPARE(run({"--format", "TIFF", "--output", out, source}).exitCode, 0);
+        QCOMPARE(QImage(out + "cmyk.tiff").colorSpace().iccProfile(), profile);
+    }
+
     // A subfolder of the output folder that is a link is not gone through.
     void keepFoldersNotThroughALink()
     {
