@@ -1,6 +1,8 @@
 #include "colorprofiles.h"
 
 #include <QColorSpace>
+#include <QVector>
+#include <QtConcurrent>
 
 #include <lcms2.h>
 
@@ -51,10 +53,22 @@ QImage toSrgb(const QImage& image, const QByteArray& iccProfile)
     if (!transform)
         return taggedSrgb(image);
     QImage converted = image.convertToFormat(QImage::Format_ARGB32);
-    for (int y = 0; y < converted.height(); ++y) {
-        uchar* row = converted.scanLine(y);
-        cmsDoTransform(transform.get(), row, row, cmsUInt32Number(converted.width()));
-    }
+    // Detached once here, so that no band detaches it again.
+    uchar* const pixels = converted.bits();
+    const qsizetype rowBytes = converted.bytesPerLine();
+    const int width = converted.width();
+    const int height = converted.height();
+    // A transform may run on several threads at once: bands of rows share the pool.
+    const int bandHeight = 64;
+    QVector<int> bandTops;
+    for (int top = 0; top < height; top += bandHeight)
+        bandTops << top;
+    QtConcurrent::blockingMap(bandTops, [&](int top) {
+        for (int y = top; y < qMin(top + bandHeight, height); ++y) {
+            uchar* row = pixels + y * rowBytes;
+            cmsDoTransform(transform.get(), row, row, cmsUInt32Number(width));
+        }
+    });
     return taggedSrgb(std::move(converted));
 }
 
