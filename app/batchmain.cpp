@@ -2,6 +2,7 @@
 // batch writes for the same flow, photos and settings. Needs no display.
 #include "appdata.h"
 #include "batchengine.h"
+#include "contactsheet.h"
 #include "flowfile.h"
 #include "flowoperations.h"
 #include "outputnaming.h"
@@ -42,6 +43,8 @@ struct Job
     bool quiet = false;
     bool overwrite = false;
     bool lenient = false;
+    // The sheet to write instead of the results, when asked for.
+    QString contactSheet;
 };
 
 // The tool's own words go to the standard error as it was at start; what the libraries
@@ -170,6 +173,13 @@ void addOptions(QCommandLineParser& parser)
                                              "taken (an unknown operation, a logo that does not "
                                              "decode) without it, instead of stopping.")},
         {"quiet", QCoreApplication::translate("main", "Print only the photos that failed.")},
+        {"contact-sheet",
+         QCoreApplication::translate("main", "Write no results: run the flow on every photo at "
+                                             "the size of the window's preview and write one "
+                                             "sheet of them all into FILE, each labelled with "
+                                             "its name and the size the run would write. The "
+                                             "format follows FILE's extension."),
+         "FILE"},
     });
     parser.addPositionalArgument(
         "PHOTO|FOLDER",
@@ -284,6 +294,16 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
         settings.copyright = parser.value("copyright");
     job.overwrite = parser.isSet("overwrite");
     job.lenient = parser.isSet("lenient");
+    if (parser.isSet("contact-sheet")) {
+        if (parser.isSet("output"))
+            return QCoreApplication::translate("main", "--contact-sheet writes no results: it "
+                                                       "does not go with --output");
+        job.contactSheet = QFileInfo(parser.value("contact-sheet")).absoluteFilePath();
+        if (ContactSheet::formatFor(job.contactSheet).isEmpty())
+            return QCoreApplication::translate("main", "the contact sheet's file must end in "
+                                                       "the extension of an output format: %1")
+                .arg(OutputSettings::formats().join(", ").toLower());
+    }
     return {};
 }
 
@@ -341,7 +361,7 @@ QString prepareJob(const QCommandLineParser& parser, Job& job)
     QString error = readFlow(parser, job);
     if (error.isEmpty())
         error = findPhotos(parser.positionalArguments(), job);
-    if (error.isEmpty())
+    if (error.isEmpty() && job.contactSheet.isEmpty())
         error = makeDestination(parser, job);
     return error;
 }
@@ -397,6 +417,51 @@ int run(const Job& job)
     return failures.isEmpty() ? allWritten : someFailed;
 }
 
+// The sheet of every photo's result at the preview's size, and no results.
+int writeContactSheet(const Job& job)
+{
+    if (!acceptFlow(job))
+        return someFailed;
+    const int count = job.photos.size();
+    ContactSheet sheet(count, job.operations, job.settings.pixelBudget());
+    QStringList failures;
+    sheet.addAll(job.photos, [&](int i, const ContactSheet::Cell& cell) {
+        if (!job.quiet)
+            err() << i + 1 << " of " << count << ": " << job.photos.at(i) << Qt::endl;
+        if (!cell.error.isEmpty())
+            failures << job.photos.at(i) + ": " + cell.error;
+    });
+    OutputSettings settings;
+    settings.format = ContactSheet::formatFor(job.contactSheet);
+    const QString folder = QFileInfo(job.contactSheet).absolutePath();
+    if (!QDir().mkpath(folder)) {
+        err() << "pelodine-batch: "
+              << QCoreApplication::translate("main", "cannot create the folder %1").arg(folder)
+              << Qt::endl;
+        return someFailed;
+    }
+    BatchEngine writer(job.photos, {}, settings, folder + "/",
+                       {false, job.overwrite, job.settings.pixelBudget()});
+    const BatchEngine::WriteResult written = writer.write(sheet.image(), job.contactSheet);
+    if (!written.written) {
+        err() << "pelodine-batch: " << job.contactSheet << ": " << written.error << Qt::endl;
+        return someFailed;
+    }
+    if (!job.quiet)
+        err() << QCoreApplication::translate("main", "contact sheet of %1 photos written into %2")
+                     .arg(count)
+                     .arg(job.contactSheet)
+              << Qt::endl;
+    if (!failures.isEmpty()) {
+        err() << QCoreApplication::translate("main", "%n photo(s) would fail:", nullptr,
+                                             failures.size())
+              << Qt::endl;
+        for (const QString& failure : qAsConst(failures))
+            err() << "  " << failure << Qt::endl;
+    }
+    return failures.isEmpty() ? allWritten : someFailed;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -426,5 +491,5 @@ int main(int argc, char* argv[])
             err() << QCoreApplication::translate("main", "see pelodine-batch --help") << Qt::endl;
         return badUsage;
     }
-    return run(job);
+    return job.contactSheet.isEmpty() ? run(job) : writeContactSheet(job);
 }

@@ -33,6 +33,8 @@ public:
 
     // The folder of the current run, ending in "/".
     QString destinationFolder() const { return destination; }
+    // For listeners to the run's photos and its end.
+    BatchWorker* batchWorker() const { return worker; }
 
 signals:
     void start();

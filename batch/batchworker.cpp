@@ -53,6 +53,7 @@ void BatchWorker::slotDoWork()
             qWarning().noquote() << "Batch:" << paths.at(i) << "-" << result.note;
         if (!result.written())
             qWarning().noquote() << "Batch: not written:" << paths.at(i) << "-" << result.error;
+        emit photoDone(paths.at(i), result.error);
     }
     oddCounter = engine.oddCounter();
     evenCounter = engine.evenCounter();

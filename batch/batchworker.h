@@ -37,6 +37,8 @@ signals:
     void finished();
     // The processed photo at nCur (0-based) of nCount, once it is written (or failed to be).
     void updateInfo(const QImage& image, int nCur, int nCount);
+    // Each photo the run reached: error is empty when its result was written, else the reason.
+    void photoDone(const QString& source, const QString& error);
 
 public slots:
     void slotDoWork();

@@ -1,10 +1,15 @@
 #include "creator.h"
 
+#include "appdata.h"
+#include "commondata.h"
 #include "creatordroparea.h"
 #include "creatoriconsview.h"
 #include "flatbutton.h"
+#include "itemsmodel.h"
 #include "nodesoptionspanel.h"
 #include "photofiles.h"
+#include "representor.h"
+#include "resultthumbnails.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -15,6 +20,10 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+namespace {
+const char showResultsKey[] = "KeyIconListResults";
+} // namespace
 
 Creator::Creator(NodesOptionsPanel* optionsPanel, QWidget* parent)
     : QWidget(parent)
@@ -41,11 +50,22 @@ Creator::Creator(NodesOptionsPanel* optionsPanel, QWidget* parent)
                                                  tr("Switch between the photo and the icon list"));
     iconViewButton->setChecked(true);
     connect(iconViewButton, &QPushButton::clicked, this, &Creator::slotShowModeChanged);
+    resultsViewButton = OrkWidgets::newToggleButton("ResultsViewButton", this,
+                                                    tr("Show the photos as the flow makes them"));
+    resultsViewButton->hide();
+    connect(resultsViewButton, &QPushButton::clicked, this, &Creator::slotShowResultsChanged);
+    resultThumbnails = new ResultThumbnails(
+        CommonData::instance()->itemsModel(),
+        [optionsPanel] { return Representor::batchOperations(optionsPanel->flow()); }, this);
+    // Every run of the preview follows a change of the flow, its parameters or the photo.
+    connect(optionsPanel, &NodesOptionsPanel::imageChanged, resultThumbnails,
+            &ResultThumbnails::slotFlowTouched);
 
     auto* header = new QHBoxLayout;
     header->setContentsMargins(0, 0, 0, 0);
     header->setSpacing(0);
     header->addWidget(title, 1);
+    header->addWidget(resultsViewButton);
     header->addWidget(iconViewButton);
 
     // No side margins: the 360 wide area fills the 360 wide side exactly.
@@ -56,6 +76,10 @@ Creator::Creator(NodesOptionsPanel* optionsPanel, QWidget* parent)
     body->addWidget(area);
     body->addWidget(icons);
     body->addStretch(1);
+
+    const bool showResults = OrkTools::AppData::readSetting(showResultsKey, false).toBool();
+    resultsViewButton->setChecked(showResults);
+    CommonData::instance()->itemsModel()->setShowResults(showResults);
 }
 
 void Creator::slotDropped(bool loaded)
@@ -73,6 +97,16 @@ void Creator::slotShowModeChanged(bool checked)
 {
     area->setVisible(checked);
     icons->setVisible(!checked);
+    resultsViewButton->setVisible(!checked);
+    // Results are made only while they can be seen.
+    resultThumbnails->setActive(!checked && resultsViewButton->isChecked());
+}
+
+void Creator::slotShowResultsChanged(bool checked)
+{
+    OrkTools::AppData::writeSetting(showResultsKey, checked);
+    CommonData::instance()->itemsModel()->setShowResults(checked);
+    resultThumbnails->setActive(checked && !icons->isHidden());
 }
 
 void Creator::slotNext()

@@ -12,6 +12,7 @@ class CreatorDropArea;
 class CreatorIconsView;
 class NodesOptionsPanel;
 class QPushButton;
+class ResultThumbnails;
 
 class Creator : public QWidget
 {
@@ -38,6 +39,9 @@ public slots:
     void slotGotoFirst();
     // Without photos the invitation to drop them shows again, whichever view was chosen.
     void slotListChanged(const QList<QUrl>& urls);
+    // Checked, the icon list shows the flow's results instead of the photos; kept for the
+    // next start.
+    void slotShowResultsChanged(bool checked);
 
 protected:
     // Photos dropped beside the drop area, on the icon list for example, are taken in as well.
@@ -49,4 +53,6 @@ private:
     CreatorDropArea* area = nullptr;
     CreatorIconsView* icons = nullptr;
     QPushButton* iconViewButton = nullptr;
+    QPushButton* resultsViewButton = nullptr;
+    ResultThumbnails* resultThumbnails = nullptr;
 };

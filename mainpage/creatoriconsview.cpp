@@ -7,22 +7,23 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+
 namespace {
 
-// A cell holds the thumbnail above the photo's name; the model's 48 x 48 is the thumbnail.
+// A cell holds the thumbnail above the photo's name; the model's size hint is the thumbnail's.
 class IconCellDelegate : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    static constexpr int cellWidth = 84;
-    static constexpr int cellHeight = 76;
-
+    // 84 x 76 around a 48 x 48 thumbnail; larger thumbnails leave less room at the sides, so
+    // that three results' cells fit across the list.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         Q_UNUSED(option)
-        Q_UNUSED(index)
-        return QSize(cellWidth, cellHeight);
+        const QSize thumbnail = index.data(Qt::SizeHintRole).toSize();
+        return QSize(std::max(84, thumbnail.width() + 12), thumbnail.height() + 28);
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -11,6 +11,7 @@
 #include "nodesoptionspanel.h"
 #include "photoactions.h"
 #include "representor.h"
+#include "runsummarybar.h"
 #include "translationsmanager.h"
 
 #include <QAction>
@@ -71,6 +72,14 @@ MainPage::MainPage(QWidget* parent)
     layout->addLayout(sides);
     layout->addWidget(optionsPanel);
     layout->addWidget(flow);
+
+    // Over the top of the page, below the menu bar: the page has a fixed size and no room
+    // to give the bar.
+    summaryBar = new RunSummaryBar(this);
+    connect(resultSide, &Representor::batchFinished, this, [this](const RunSummary& summary) {
+        summaryBar->move(0, menuBar->geometry().bottom() + 1);
+        summaryBar->slotShowSummary(summary);
+    });
 }
 
 namespace {

@@ -13,6 +13,7 @@ class QActionGroup;
 class QMenuBar;
 class QPushButton;
 class Representor;
+class RunSummaryBar;
 
 class MainPage : public QFrame
 {
@@ -26,6 +27,7 @@ public:
     Representor* representor() const { return resultSide; }
     FlowPanel* flowPanel() const { return flow; }
     PhotoActions* photoCommands() const { return photoActions; }
+    RunSummaryBar* runSummaryBar() const { return summaryBar; }
 
 public slots:
     // Photos dropped on the drop window: a non-empty list replaces the photo list; the page is
@@ -57,4 +59,5 @@ private:
     QPushButton* settingsButton = nullptr;
     QActionGroup* languageGroup = nullptr;
     PhotoActions* photoActions = nullptr;
+    RunSummaryBar* summaryBar = nullptr;
 };

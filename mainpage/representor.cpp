@@ -6,12 +6,14 @@
 
 #include "basenode.h"
 #include "batchdialog.h"
+#include "batchworker.h"
 #include "commondata.h"
 #include "imagepreview.h"
 #include "imageviewdialog.h"
 #include "itemsmodel.h"
 #include "nodesoptionspanel.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -45,6 +47,11 @@ Representor::Representor(NodesOptionsPanel* optionsPanel, QWidget* parent)
     connect(imagePreview, &ImagePreview::previous, this, &Representor::previous);
     connect(imageViewDialog, &ImageViewDialog::next, this, &Representor::next);
     connect(imageViewDialog, &ImageViewDialog::previous, this, &Representor::previous);
+    // The worker's signals arrive queued, each photo's before the run's end.
+    BatchWorker* worker = batchDialog->batchWorker();
+    connect(worker, &BatchWorker::photoDone, this,
+            [this](const QString& source, const QString& error) { lastRun.add(source, error); });
+    connect(worker, &BatchWorker::finished, this, [this] { emit batchFinished(lastRun); });
 
     auto* title = new QLabel(tr("<H2><CENTER>Result</CENTER></H2>"), this);
     QPushButton* previewButton = OrkWidgets::newFlatButton("PreviewButton", this, QString(),
@@ -107,6 +114,10 @@ void Representor::slotRunBatchClicked()
         return;
     batchDialog->startBatch(batchOperations(optionsPanel->flow()), photos,
                             CommonData::instance()->inputFolders);
+    // A stopped run that was still finishing its photo has ended now; what it reported is
+    // told before this run's count begins.
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    lastRun = {batchDialog->destinationFolder(), photos.size(), 0, {}};
     batchDialog->exec();
 }
 

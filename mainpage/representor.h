@@ -3,6 +3,7 @@
 #pragma once
 
 #include "batchoperations.h"
+#include "runsummarybar.h"
 
 #include <QFrame>
 #include <QImage>
@@ -33,6 +34,8 @@ signals:
     // The large view wants the flow run on the full-size photo.
     void realSizeRequired();
     void gotoFirst();
+    // A batch run has ended, after its last photo or a stop.
+    void batchFinished(const RunSummary& summary);
 
 public slots:
     void slotSetImage(const QImage& image);
@@ -51,4 +54,5 @@ private:
     BatchDialog* batchDialog = nullptr;
     ImagePreview* imagePreview = nullptr;
     ImageViewDialog* imageViewDialog = nullptr;
+    RunSummary lastRun;
 };

@@ -67,6 +67,11 @@ QString tooLarge(const QSize& size)
     return BatchEngine::tr("too large: %1 x %2").arg(size.width()).arg(size.height());
 }
 
+QString leftNoImage(const QString& operation)
+{
+    return BatchEngine::tr("the operation \"%1\" left no image").arg(operation);
+}
+
 // The reason a file could not be written, in the user's terms where there is one.
 QString writeError(const QFileDevice& file)
 {
@@ -351,15 +356,28 @@ BatchEngine::Photo BatchEngine::apply(QImage image, const QVector<PreparedOperat
             return {{}, tooLarge(next)};
         image = operation.apply(std::move(image));
         if (image.isNull())
-            return {{}, tr("the operation \"%1\" left no image").arg(operation.name)};
+            return {{}, leftNoImage(operation.name)};
     }
     return {image, {}};
 }
 
-QVector<PreparedOperation> BatchEngine::prepare(const BatchOperations& operations)
+QVector<PreparedOperation> BatchEngine::prepare(const BatchOperations& operations, bool forPreview)
 {
     QVector<PreparedOperation> prepared;
     for (const auto& operation : operations)
-        prepared << prepareOperation(operation.first, operation.second);
+        prepared << prepareOperation(operation.first, operation.second, forPreview);
     return prepared;
+}
+
+QSize BatchEngine::resultSize(QSize size, const QVector<PreparedOperation>& operations,
+                              qint64 pixelBudget, QString* error)
+{
+    for (const PreparedOperation& operation : operations) {
+        size = operation.resultSize(size);
+        if (size.isEmpty() || qint64(size.width()) * size.height() > pixelBudget) {
+            *error = size.isEmpty() ? leftNoImage(operation.name) : tooLarge(size);
+            return {};
+        }
+    }
+    return size;
 }

@@ -112,8 +112,14 @@ public:
     // pixelBudget is refused before it is made.
     static Photo apply(QImage image, const QVector<PreparedOperation>& operations,
                        qint64 pixelBudget);
-    // The operations with their parameters read once (a logo is decoded once per run).
-    static QVector<PreparedOperation> prepare(const BatchOperations& operations);
+    // The operations with their parameters read once (a logo is decoded once per run);
+    // forPreview as the live preview runs them on its reduced working copy.
+    static QVector<PreparedOperation> prepare(const BatchOperations& operations,
+                                              bool forPreview = false);
+    // The size apply makes of a photo of size, worked out without pixels; empty, with the
+    // reason in error, when a step would grow past pixelBudget.
+    static QSize resultSize(QSize size, const QVector<PreparedOperation>& operations,
+                            qint64 pixelBudget, QString* error);
 
     // The folder of a run started at start under base: base + "yyyy-MM-dd_hh-mm-ss/", created
     // with its parents. With exclusive, a folder of that name that exists already is not

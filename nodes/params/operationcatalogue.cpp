@@ -9,15 +9,26 @@ namespace {
 struct Entry
 {
     const char* name;
-    PreparedOperation (*prepare)(const QString& name, const QString& parametersText);
+    PreparedOperation (*prepare)(const QString& name, const QString& parametersText,
+                                 bool forPreview);
     QStringList (*read)(const QDomElement& parameters, QDomElement& written,
                         QDomDocument& document);
 };
 
-// The operations that change the pixel count; every other keeps the size.
+// The operations that change the size; every other keeps it.
 template <typename Values> QSize sizeAfter(const Values& /*values*/, const QSize& size)
 {
     return size;
+}
+
+QSize sizeAfter(const CRPValues& values, const QSize& size)
+{
+    return OrkGraphX::croppedSize(size, values.left, values.right, values.top, values.bottom);
+}
+
+QSize sizeAfter(const RTTValues& values, const QSize& size)
+{
+    return OrkGraphX::rotatedSize(size, values.angle);
 }
 
 QSize sizeAfter(const FRMValues& values, const QSize& size)
@@ -30,12 +41,22 @@ QSize sizeAfter(const RSZValues& values, const QSize& size)
     return RSZOperation::resultSize(values, size);
 }
 
+// Only Resize runs differently on the preview's working copy.
+template <typename Values> void markPreview(Values& /*values*/, bool /*forPreview*/) {}
+
+void markPreview(RSZValues& values, bool forPreview)
+{
+    values.previewMode = forPreview;
+}
+
 // The values start at zero and are taken from the text once; the operation's one mapping then
 // runs on the calling thread, image after image.
 template <typename Op>
-PreparedOperation prepareHeadless(const QString& name, const QString& parametersText)
+PreparedOperation prepareHeadless(const QString& name, const QString& parametersText,
+                                  bool forPreview)
 {
-    const typename Op::Values values = Op::table().parse(parametersText);
+    typename Op::Values values = Op::table().parse(parametersText);
+    markPreview(values, forPreview);
     return {name,
             [values](QImage image) {
                 // The kernels read 32-bit words; a photo of another depth is widened first.
@@ -88,11 +109,12 @@ QStringList operationNames()
     return names;
 }
 
-PreparedOperation prepareOperation(const QString& name, const QString& parametersText)
+PreparedOperation prepareOperation(const QString& name, const QString& parametersText,
+                                   bool forPreview)
 {
     const Entry* found = findEntry(name);
     if (found)
-        return found->prepare(name, parametersText);
+        return found->prepare(name, parametersText, forPreview);
     return {name, [](const QImage& image) { return image; },
             [](const QSize& size) { return size; }};
 }

@@ -15,17 +15,19 @@ QStringList operationNames();
 
 // An operation with its parameter text read once, for a run over many images: apply gives the
 // image through the operation's headless form; resultSize says, without touching pixels, how
-// large the result can be: the exact size for the operations that add pixels (Frame, Resize),
-// the size given for every other (none of them adds pixels), so that a run can refuse a result
-// too large before it is made. Both are safe on any thread; an unknown name leaves images and
-// sizes as they are.
+// large the full-size result is, so that a run can refuse a result too large before it is made
+// and a look at the batch can say what the run will write. Both are safe on any thread; an
+// unknown name leaves images and sizes as they are. forPreview runs the operation as the live
+// preview runs it on its reduced working copy (Resize then caps its pixel sizes and leaves
+// "Maximum pixels" to the full-size run).
 struct PreparedOperation
 {
     QString name;
     std::function<QImage(QImage)> apply;
     std::function<QSize(const QSize&)> resultSize;
 };
-PreparedOperation prepareOperation(const QString& name, const QString& parametersText);
+PreparedOperation prepareOperation(const QString& name, const QString& parametersText,
+                                   bool forPreview = false);
 
 // The named operation applied by its headless form to image with the stored parameter text.
 QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText);

@@ -6,6 +6,7 @@
 #include "commondata.h"
 #include "imagelabel.h"
 #include "nodecatalogue.h"
+#include "previewcopy.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -85,16 +86,13 @@ void NodesOptionsPanel::setImage(const QImage& image)
 
 int NodesOptionsPanel::previewLimit()
 {
-    return qRound(OrkWidgets::App::devicePixelRatio() * 360.0);
+    return qRound(OrkWidgets::App::devicePixelRatio() * PreviewCopy::baseLimit);
 }
 
 QImage NodesOptionsPanel::previewCopy(const QImage& image)
 {
-    const int limit = previewLimit();
-    // Only the width is compared: a narrow, tall photo is left as it is.
-    if (CommonData::instance()->previewMode && image.width() > limit)
-        return image.scaled(limit, limit, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    return image;
+    return CommonData::instance()->previewMode ? PreviewCopy::reduced(image, previewLimit())
+                                               : image;
 }
 
 void NodesOptionsPanel::slotShowOptions(BaseNode* node)

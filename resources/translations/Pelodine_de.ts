@@ -134,7 +134,7 @@
         <translation>Neuer Ordner je Durchlauf</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Browse...</source>
         <translation>Durchsuchen...</translation>
     </message>
@@ -259,7 +259,7 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+189"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+195"/>
         <source>no photo at position %1</source>
         <translation>kein Foto an Position %1</translation>
     </message>
@@ -274,12 +274,12 @@
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
     <message>
-        <location line="-11"/>
+        <location line="-16"/>
         <source>too large: %1 x %2</source>
         <translation>zu groß: %1 x %2</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+13"/>
         <source>cannot write: disk full</source>
         <translation>Schreiben nicht möglich: Datenträger voll</translation>
     </message>
@@ -320,7 +320,7 @@
         <translation>Schreiben nicht möglich: %1 existiert bereits</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+39"/>
         <source>larger than %1 KB even at quality 1</source>
         <translation>größer als %1 KB selbst bei Qualität 1</translation>
     </message>
@@ -365,7 +365,7 @@
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="+60"/>
+        <location line="-227"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -409,7 +409,7 @@
 <context>
     <name>Creator</name>
     <message>
-        <location filename="../../mainpage/creator.cpp" line="+39"/>
+        <location filename="../../mainpage/creator.cpp" line="+48"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
@@ -417,6 +417,11 @@
         <location line="+2"/>
         <source>Switch between the photo and the icon list</source>
         <translation>Zwischen Foto und Symbolliste wechseln</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Show the photos as the flow makes them</source>
+        <translation>Die Fotos so zeigen, wie der Ablauf sie macht</translation>
     </message>
 </context>
 <context>
@@ -689,12 +694,12 @@ Overwrite?</source>
 <context>
     <name>MainPage</name>
     <message>
-        <location filename="../../mainpage/mainpage.cpp" line="+54"/>
+        <location filename="../../mainpage/mainpage.cpp" line="+55"/>
         <source>Output settings</source>
         <translation>Ausgabeeinstellungen</translation>
     </message>
     <message>
-        <location line="+35"/>
+        <location line="+43"/>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
     </message>
@@ -888,7 +893,7 @@ Overwrite?</source>
 <context>
     <name>NodesOptionsPanel</name>
     <message>
-        <location filename="../../nodes/ui/nodesoptionspanel.cpp" line="+45"/>
+        <location filename="../../nodes/ui/nodesoptionspanel.cpp" line="+46"/>
         <source>Build your flow</source>
         <translation>Ablauf erstellen</translation>
     </message>
@@ -1051,7 +1056,7 @@ Overwrite?</source>
 <context>
     <name>Representor</name>
     <message>
-        <location filename="../../mainpage/representor.cpp" line="+49"/>
+        <location filename="../../mainpage/representor.cpp" line="+56"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Result&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Ergebnis&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
@@ -1059,6 +1064,39 @@ Overwrite?</source>
         <location line="+2"/>
         <source>Show the result in full size</source>
         <translation>Ergebnis in voller Größe zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>RunSummaryBar</name>
+    <message>
+        <location filename="../../mainpage/runsummarybar.cpp" line="+46"/>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Photos written: %1 of %2, into %3</source>
+        <translation>Geschriebene Fotos: %1 von %2, in %3</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Stopped: %1 not processed.</source>
+        <translation>Angehalten: %1 nicht bearbeitet.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Failed: %1</source>
+        <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
     </message>
 </context>
 <context>
@@ -1236,7 +1274,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+68"/>
+        <location filename="../../app/batchmain.cpp" line="+71"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1354,7 +1392,12 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>Nur die fehlgeschlagenen Fotos ausgeben.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+2"/>
+        <source>Write no results: run the flow on every photo at the size of the window&apos;s preview and write one sheet of them all into FILE, each labelled with its name and the size the run would write. The format follows FILE&apos;s extension.</source>
+        <translation>Keine Ergebnisse schreiben: den Ablauf auf jedes Foto in der Größe der Vorschau des Fensters anwenden und einen Bogen mit allen in FILE schreiben, jedes mit seinem Namen und der Größe beschriftet, die der Lauf schreiben würde. Das Format folgt der Endung von FILE.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
         <source>Photos, and folders whose image files (subfolders included) are taken in name order.</source>
         <translation>Fotos und Ordner, deren Bilddateien (samt Unterordnern) in Namensreihenfolge genommen werden.</translation>
     </message>
@@ -1429,7 +1472,17 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>--keep-folders und --no-keep-folders schließen einander aus</translation>
     </message>
     <message>
-        <location line="+60"/>
+        <location line="+15"/>
+        <source>--contact-sheet writes no results: it does not go with --output</source>
+        <translation>--contact-sheet schreibt keine Ergebnisse: es passt nicht zu --output</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>the contact sheet&apos;s file must end in the extension of an output format: %1</source>
+        <translation>die Datei des Kontaktbogens muss auf die Endung eines Ausgabeformats enden: %1</translation>
+    </message>
+    <message>
+        <location line="+51"/>
         <source>no photos given</source>
         <translation>keine Fotos angegeben</translation>
     </message>
@@ -1439,22 +1492,36 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>pelodine-batch: nichts geschrieben; --lenient führt den Ablauf ohne das Ausgelassene aus</translation>
     </message>
     <message>
-        <location line="+70"/>
+        <location line="+75"/>
+        <source>contact sheet of %1 photos written into %2</source>
+        <translation>Kontaktbogen mit %1 Fotos in %2 geschrieben</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+5"/>
+        <source>%n photo(s) would fail:</source>
+        <translation>
+            <numerusform>%n Foto würde fehlschlagen:</numerusform>
+            <numerusform>%n Fotos würden fehlschlagen:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+35"/>
         <source>see pelodine-batch --help</source>
         <translation>siehe pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-127"/>
+        <location line="-172"/>
         <source>no photos in the folders given</source>
         <translation>keine Fotos in den angegebenen Ordnern</translation>
     </message>
     <message>
         <location line="+19"/>
+        <location line="+101"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="+65"/>
+        <location line="-36"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>%1 von %2 Fotos nach %3 geschrieben</translation>
     </message>

@@ -134,7 +134,7 @@
         <translation>Новая папка для каждого запуска</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+4"/>
         <source>Browse...</source>
         <translation>Обзор...</translation>
     </message>
@@ -259,7 +259,7 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+189"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+195"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
@@ -274,12 +274,12 @@
         <translation>запись невозможна: %1</translation>
     </message>
     <message>
-        <location line="-11"/>
+        <location line="-16"/>
         <source>too large: %1 x %2</source>
         <translation>слишком большое: %1 x %2</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+13"/>
         <source>cannot write: disk full</source>
         <translation>запись невозможна: диск заполнен</translation>
     </message>
@@ -320,7 +320,7 @@
         <translation>запись невозможна: %1 уже существует</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+39"/>
         <source>larger than %1 KB even at quality 1</source>
         <translation>больше %1 КБ даже при качестве 1</translation>
     </message>
@@ -365,7 +365,7 @@
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="+60"/>
+        <location line="-227"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -409,7 +409,7 @@
 <context>
     <name>Creator</name>
     <message>
-        <location filename="../../mainpage/creator.cpp" line="+39"/>
+        <location filename="../../mainpage/creator.cpp" line="+48"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Original&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Оригинал&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
@@ -417,6 +417,11 @@
         <location line="+2"/>
         <source>Switch between the photo and the icon list</source>
         <translation>Переключение между фото и списком значков</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Show the photos as the flow makes them</source>
+        <translation>Показать фото такими, какими их делает сценарий</translation>
     </message>
 </context>
 <context>
@@ -689,12 +694,12 @@ Overwrite?</source>
 <context>
     <name>MainPage</name>
     <message>
-        <location filename="../../mainpage/mainpage.cpp" line="+54"/>
+        <location filename="../../mainpage/mainpage.cpp" line="+55"/>
         <source>Output settings</source>
         <translation>Параметры вывода</translation>
     </message>
     <message>
-        <location line="+35"/>
+        <location line="+43"/>
         <source>&amp;File</source>
         <translation>&amp;Файл</translation>
     </message>
@@ -888,7 +893,7 @@ Overwrite?</source>
 <context>
     <name>NodesOptionsPanel</name>
     <message>
-        <location filename="../../nodes/ui/nodesoptionspanel.cpp" line="+45"/>
+        <location filename="../../nodes/ui/nodesoptionspanel.cpp" line="+46"/>
         <source>Build your flow</source>
         <translation>Создайте сценарий</translation>
     </message>
@@ -1051,7 +1056,7 @@ Overwrite?</source>
 <context>
     <name>Representor</name>
     <message>
-        <location filename="../../mainpage/representor.cpp" line="+49"/>
+        <location filename="../../mainpage/representor.cpp" line="+56"/>
         <source>&lt;H2&gt;&lt;CENTER&gt;Result&lt;/CENTER&gt;&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;&lt;CENTER&gt;Результат&lt;/CENTER&gt;&lt;/H2&gt;</translation>
     </message>
@@ -1059,6 +1064,39 @@ Overwrite?</source>
         <location line="+2"/>
         <source>Show the result in full size</source>
         <translation>Показать результат в полном размере</translation>
+    </message>
+</context>
+<context>
+    <name>RunSummaryBar</name>
+    <message>
+        <location filename="../../mainpage/runsummarybar.cpp" line="+46"/>
+        <source>Open Folder</source>
+        <translation>Открыть папку</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Photos written: %1 of %2, into %3</source>
+        <translation>Записано фото: %1 из %2, в %3</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Stopped: %1 not processed.</source>
+        <translation>Остановлено: не обработано %1.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Failed: %1</source>
+        <translation>Не удалось: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>and %1 more</source>
+        <translation>и ещё %1</translation>
     </message>
 </context>
 <context>
@@ -1236,7 +1274,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+68"/>
+        <location filename="../../app/batchmain.cpp" line="+71"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1354,7 +1392,12 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>Выводить только необработанные фото.</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+2"/>
+        <source>Write no results: run the flow on every photo at the size of the window&apos;s preview and write one sheet of them all into FILE, each labelled with its name and the size the run would write. The format follows FILE&apos;s extension.</source>
+        <translation>Не записывать результаты: выполнить поток для каждого фото в размере предпросмотра окна и записать в FILE один лист со всеми, каждое с подписью: имя и размер, который записал бы запуск. Формат следует расширению FILE.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
         <source>Photos, and folders whose image files (subfolders included) are taken in name order.</source>
         <translation>Фото и папки, файлы изображений которых (включая подпапки) берутся в порядке имён.</translation>
     </message>
@@ -1429,7 +1472,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>--keep-folders и --no-keep-folders исключают друг друга</translation>
     </message>
     <message>
-        <location line="+60"/>
+        <location line="+15"/>
+        <source>--contact-sheet writes no results: it does not go with --output</source>
+        <translation>--contact-sheet не записывает результатов: он несовместим с --output</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>the contact sheet&apos;s file must end in the extension of an output format: %1</source>
+        <translation>файл листа просмотра должен иметь расширение формата вывода: %1</translation>
+    </message>
+    <message>
+        <location line="+51"/>
         <source>no photos given</source>
         <translation>фото не указаны</translation>
     </message>
@@ -1439,22 +1492,37 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>pelodine-batch: ничего не записано; --lenient выполняет поток без пропущенного</translation>
     </message>
     <message>
-        <location line="+70"/>
+        <location line="+75"/>
+        <source>contact sheet of %1 photos written into %2</source>
+        <translation>лист просмотра с %1 фото записан в %2</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+5"/>
+        <source>%n photo(s) would fail:</source>
+        <translation>
+            <numerusform>%n фото не удалось бы обработать:</numerusform>
+            <numerusform>%n фото не удалось бы обработать:</numerusform>
+            <numerusform>%n фото не удалось бы обработать:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+35"/>
         <source>see pelodine-batch --help</source>
         <translation>см. pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-127"/>
+        <location line="-172"/>
         <source>no photos in the folders given</source>
         <translation>в указанных папках нет фото</translation>
     </message>
     <message>
         <location line="+19"/>
+        <location line="+101"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+65"/>
+        <location line="-36"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>записано %1 из %2 фото в %3</translation>
     </message>

@@ -5,6 +5,7 @@
 #include "batchengine.h"
 #include "batchthread.h"
 #include "batchworker.h"
+#include "contactsheet.h"
 #include "flowfile.h"
 #include "flowoperations.h"
 #include "outputsettings.h"
@@ -602,6 +603,37 @@ private slots:
         QCOMPARE(tiny.exitCode, 0);
         QVERIFY2(tiny.err.contains("big.png: larger than 1 KB even at quality 1"),
                  qPrintable(tiny.err));
+    }
+
+    // Resize to 50 % then a quarter turn. The sheet runs the preview's working copy: 720 x 540
+    // fits into 360 x 270 and comes out 135 x 180; the label names the full run's 270 x 360. A
+    // photo no wider than 360 is its own working copy: 40 x 30 is labelled 15 x 20.
+    void contactSheet()
+    {
+        const QString flow = TestUtils::writeFile(
+            in + "/turn.flow",
+            "<OperationsFlow><Operation name=\"Resize\" index=\"0\"><Parameters><Active>yes"
+            "</Active><Mode>0</Mode><Width>50</Width><Height>50</Height></Parameters></Operation>"
+            "<Operation name=\"Rotate\" index=\"1\"><Parameters><Active>yes</Active><Angle>90"
+            "</Angle></Parameters></Operation></OperationsFlow>");
+        const QStringList photos{
+            TestUtils::writeImage(in + "/wide.png", TestUtils::filledImage(720, 540, 0xff203040)),
+            photo("small.png"), TestUtils::writeFile(in + "/broken.png", "no photo")};
+        ContactSheet sheet(photos.size(), batchOperationsFromFlow(readFile(flow)), 1'000'000);
+        QCOMPARE(sheet.run(photos.at(0)).result.size(), QSize(135, 180));
+        sheet.addAll(photos);
+        const QString reason = BatchEngine::load(photos.at(2), 1'000'000).error;
+        QCOMPARE(sheet.labels(), (QStringList{"wide.png\n270 × 360", "small.png\n15 × 20",
+                                              "broken.png\n" + reason}));
+        QCOMPARE(sheet.columns(), 2);
+
+        // From the command line: the sheet and nothing else; the failed photo makes it exit 1.
+        const Outcome outcome = run({"--flow", flow, "--contact-sheet", out + "sheet.png", in});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.err.contains("broken.png: " + reason), qPrintable(outcome.err));
+        QCOMPARE(fileNames(out), QString("sheet.png"));
+        QVERIFY(!QDir(OrkTools::AppData::outputBaseFolder()).exists());
+        QCOMPARE(QImage(out + "sheet.png").size(), sheet.image().size());
     }
 
 private:

@@ -18,6 +18,7 @@
 #include "photoactions.h"
 #include "photofiles.h"
 #include "representor.h"
+#include "runsummarybar.h"
 #include "testutils.h"
 
 #include <QAction>
@@ -82,6 +83,8 @@ private slots:
     void addingByDialog();
     void largeViewRunsFullSize();
     void batchRunsActiveNodesOnThePhotos();
+    void batchEndShowsASummary();
+    void iconListShowsResults();
 
 private:
     QList<QUrl> photos(const QStringList& names) const;
@@ -570,6 +573,71 @@ void TestMainPage::batchRunsActiveNodesOnThePhotos()
     written.sort();
     QCOMPARE(written,
              (QStringList{"NewName1.jpeg", "NewName3.jpeg", "NewName5.jpeg", "NewName7.jpeg"}));
+}
+
+// Three photos of which one cannot be read: the bar names the two written, where, and the one
+// that failed; the folder keeps no file for it.
+void TestMainPage::batchEndShowsASummary()
+{
+    QSettings().clear();
+    OrkTools::AppData::writeSetting("KeyOpenLocation", false);
+    QDir(OrkTools::AppData::outputBaseFolder()).removeRecursively();
+    page->slotFilesDropped(photos({"tall.png", "broken.jpg", "album/b.png"}));
+    RunSummaryBar* bar = page->runSummaryBar();
+    QVERIFY(bar->isHidden());
+    emit page->flowPanel()->runBatch();
+    QTRY_VERIFY(!bar->isHidden());
+    QDir written(OrkTools::AppData::outputBaseFolder());
+    const QString folder =
+        written.filePath(written.entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0)) + "/";
+    QCOMPARE(QDir(folder).entryList(QDir::Files), (QStringList{"b.jpeg", "tall.jpeg"}));
+    QCOMPARE(bar->headline(), "Photos written: 2 of 3, into " + folder);
+    QVERIFY2(bar->details().startsWith("Failed: 1\nbroken.jpg: "), qPrintable(bar->details()));
+    QCOMPARE(bar->details().count('\n'), 1);
+
+    // Five failures and a stop: four are named, the rest counted.
+    RunSummary stopped{"/out/", 9, 0, {}};
+    for (const QString name : {"1", "2", "3", "4", "5"})
+        stopped.add(name + ".jpg", "damaged");
+    stopped.add("6.jpg", {});
+    bar->slotShowSummary(stopped);
+    QCOMPARE(bar->headline(), QString("Photos written: 1 of 9, into /out/\nStopped: 3 not "
+                                      "processed."));
+    QCOMPARE(bar->details(), QString("Failed: 5\n1.jpg: damaged\n2.jpg: damaged\n3.jpg: "
+                                     "damaged\n4.jpg: damaged\nand 1 more"));
+}
+
+// An Invert flow turns the thumbnail of a 0xff3060a0 photo into 0xffcf9f5f; switched off, the
+// photo's own colour comes back, after the flow changes and in the list's own thumbnails.
+void TestMainPage::iconListShowsResults()
+{
+    const auto flowWithInvert = [](const char* active) {
+        return QString("<OperationsFlow><Operation name=\"Invert\" index=\"0\"><Parameters>"
+                       "<Active>%1</Active></Parameters></Operation></OperationsFlow>")
+            .arg(active);
+    };
+    QModelIndex row;
+    const auto centre = [&row] {
+        const QImage thumbnail = row.data(Qt::DecorationRole).value<QImage>();
+        return thumbnail.isNull() ? QRgb(0) : thumbnail.pixel(thumbnail.rect().center());
+    };
+    page->flowPanel()->loadFlow(flowWithInvert("yes"));
+    page->slotFilesDropped(photos({"large.png"}));
+    row = CommonData::instance()->itemsModel()->index(0);
+    page->findChild<QPushButton*>("IconViewButton")->click();
+    auto* results = page->findChild<QPushButton*>("ResultsViewButton");
+    results->click();
+    QCOMPARE(OrkTools::AppData::readSetting("KeyIconListResults").toBool(), true);
+    QTRY_COMPARE(centre(), QRgb(0xffcf9f5f));
+    QCOMPARE(row.data(Qt::DecorationRole).value<QImage>().size(), QSize(96, 96));
+
+    page->flowPanel()->loadFlow(flowWithInvert("no"));
+    QTRY_COMPARE(centre(), QRgb(0xff3060a0));
+    page->flowPanel()->loadFlow(flowWithInvert("yes"));
+    results->click();
+    QCOMPARE(OrkTools::AppData::readSetting("KeyIconListResults").toBool(), false);
+    QCOMPARE(row.data(Qt::DecorationRole).value<QImage>().size(), QSize(48, 48));
+    QCOMPARE(centre(), QRgb(0xff3060a0));
 }
 
 PELODINE_TEST_MAIN(TestMainPage)

@@ -12,15 +12,18 @@
 #include "flowfile.h"
 #include "flowpanel.h"
 #include "imageviewdialog.h"
+#include "itemsmodel.h"
 #include "mainpage.h"
 #include "nodecatalogue.h"
 #include "nodesoptionspanel.h"
 #include "nodestabbar.h"
 #include "representor.h"
+#include "runsummarybar.h"
 #include "testutils.h"
 #include "translationsmanager.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QInputDialog>
 #include <QLinearGradient>
 #include <QMenu>
@@ -405,6 +408,44 @@ QPixmap wideFlowPanel(const QUrl& photo)
     return grabWindow(&flow);
 }
 
+// The icon list showing the flow's results, once every photo's has come.
+QPixmap resultsGrid(MainPage& page)
+{
+    page.findChild<QPushButton*>("IconViewButton")->click();
+    page.findChild<QPushButton*>("ResultsViewButton")->click();
+    const ItemsModel* model = CommonData::instance()->itemsModel();
+    const auto allCome = [model] {
+        for (int row = 0; row < model->rowCount(); ++row) {
+            if (model->index(row).data(Qt::DecorationRole).value<QImage>().isNull())
+                return false;
+        }
+        return true;
+    };
+    for (QElapsedTimer waited; !allCome() && waited.elapsed() < 20000;)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    settle();
+    const QPixmap shot = page.grab();
+    page.findChild<QPushButton*>("ResultsViewButton")->click();
+    page.findChild<QPushButton*>("IconViewButton")->click();
+    return shot;
+}
+
+// The bar at the end of a run in which one photo of three failed.
+QPixmap summaryBar(MainPage& page)
+{
+    RunSummary summary{"/home/user/Pictures/Pelodine/2024-05-01_10-00-00/", 3, 0, {}};
+    summary.add("/home/user/Pictures/Lake.jpg", {});
+    summary.add("/home/user/Pictures/Evening.jpg",
+                QCoreApplication::translate("BatchEngine", "damaged: %1")
+                    .arg("Premature end of JPEG file"));
+    summary.add("/home/user/Pictures/Valley.jpg", {});
+    emit page.representor()->batchFinished(summary);
+    settle();
+    const QPixmap shot = page.grab();
+    page.runSummaryBar()->hide();
+    return shot;
+}
+
 // The documentation screenshots at actual size, in each language: the main window with photos,
 // with its File menu open and without photos, the large view, a warning and the language
 // notice, every kind of node in the flow panel, the watermark options and the two dialogs.
@@ -444,6 +485,8 @@ bool writeDocs(const QString& folder, const QList<QUrl>& photos)
             batch->slotUpdateInfo(QImage(photos.at(0).toLocalFile()).scaledToWidth(600), 1, 3);
             shots << qMakePair(QString("batch-dialog"), grabWindow(batch));
             batch->hide();
+            shots << qMakePair(QString("results-grid"), resultsGrid(sample.page));
+            shots << qMakePair(QString("summary-bar"), summaryBar(sample.page));
         }
         {
             MainPage empty;

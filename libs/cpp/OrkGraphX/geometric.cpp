@@ -228,6 +228,12 @@ QImage rotateImage(QImage& image, int angle)
     }
 }
 
+QSize rotatedSize(const QSize& size, int angle)
+{
+    const bool quarterTurn = angle == 90 || angle == -270 || angle == 270 || angle == -90;
+    return quarterTurn ? size.transposed() : size;
+}
+
 QImage rotateRight90(QImage& image)
 {
     return quarterTurn(image, true);
@@ -278,18 +284,25 @@ QImage mirrorImage(QImage& image, bool horizontal, bool vertical)
 QImage cropImage(QImage& image, int left, int right, int top, int bottom)
 {
     const QImage source = wordImage(image);
-    const qint64 w = source.width();
-    const qint64 h = source.height();
-    const qint64 x0 = (left * w) / 100;
-    const qint64 y0 = (top * h) / 100;
-    const qint64 newWidth = w - ((w * right) / 100 + x0);
-    const qint64 newHeight = h - ((h * bottom) / 100 + y0);
-    if (newWidth < 1 || newHeight < 1 || newWidth > INT_MAX || newHeight > INT_MAX)
+    const QSize size = croppedSize(source.size(), left, right, top, bottom);
+    if (size.isEmpty())
         return QImage();
-    QImage result = newImage(int(newWidth), int(newHeight), source.format());
+    QImage result = newImage(size.width(), size.height(), source.format());
     if (!result.isNull())
-        copyShifted(source, result, x0, y0);
+        copyShifted(source, result, (left * qint64(source.width())) / 100,
+                    (top * qint64(source.height())) / 100);
     return result;
+}
+
+QSize croppedSize(const QSize& size, int left, int right, int top, int bottom)
+{
+    const qint64 w = size.width();
+    const qint64 h = size.height();
+    const qint64 newWidth = w - ((w * right) / 100 + (left * w) / 100);
+    const qint64 newHeight = h - ((h * bottom) / 100 + (top * h) / 100);
+    if (newWidth < 1 || newHeight < 1 || newWidth > INT_MAX || newHeight > INT_MAX)
+        return QSize();
+    return QSize(int(newWidth), int(newHeight));
 }
 
 QSize framedSize(const QSize& size, int percent)

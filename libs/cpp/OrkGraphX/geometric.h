@@ -12,11 +12,15 @@ QImage rotateImage(QImage& image, int angle);
 QImage rotateRight90(QImage& image);
 QImage rotate180(QImage& image);
 QImage rotateLeft90(QImage& image);
+// The size rotateImage gives an image of size: the sides swapped for a quarter turn.
+QSize rotatedSize(const QSize& size, int angle);
 
 QImage mirrorImage(QImage& image, bool horizontal, bool vertical);
 
 // Margins in percent of the image size.
 QImage cropImage(QImage& image, int left, int right, int top, int bottom);
+// The size cropImage gives an image of size; empty when it would be no image.
+QSize croppedSize(const QSize& size, int left, int right, int top, int bottom);
 
 // A border of percent of the width on all four sides.
 QImage drawFrame(QImage& image, int percent, QColor colour);
