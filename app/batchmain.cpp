@@ -100,7 +100,9 @@ void addOptions(QCommandLineParser& parser)
          QCoreApplication::translate("main", "The output format; the file extension is its name "
                                              "in lower case."),
          OutputSettings::formats().join('|')},
-        {"quality", QCoreApplication::translate("main", "The JPEG quality."), "1-100"},
+        {"quality",
+         QCoreApplication::translate("main", "The quality of JPEG, WEBP, AVIF, JXL and HEIC."),
+         "1-100"},
         {"rename",
          QCoreApplication::translate("main", "Name the files NAME followed by a number instead "
                                              "of the photo's name."),
@@ -131,10 +133,10 @@ void addOptions(QCommandLineParser& parser)
                                              "Default: keep."),
          "keep|strip-location|strip"},
         {"max-kb",
-         QCoreApplication::translate("main", "Keep every JPEG file at most N kilobytes: the "
-                                             "highest quality up to --quality that fits; a "
-                                             "photo that fits not even at quality 1 is written "
-                                             "at 1 and named."),
+         QCoreApplication::translate("main", "Keep every JPEG, WEBP, AVIF or JXL file at most N "
+                                             "kilobytes: the highest quality up to --quality "
+                                             "that fits; a photo that fits not even at quality "
+                                             "1 is written at 1 and named."),
          "N"},
         {"background",
          QCoreApplication::translate("main", "The colour transparent pixels are laid on in JPEG, "

@@ -57,7 +57,10 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     maxKilobytesBox->setSpecialValueText(tr("No limit"));
     auto* limitsForm = new QFormLayout;
     limitsForm->addRow(tr("Largest photo:"), maxMegapixelsBox);
-    limitsForm->addRow(tr("Largest JPEG file:"), maxKilobytesBox);
+    maxKilobytesBox->setToolTip(tr("For JPEG, WEBP, AVIF and JXL: the highest quality whose "
+                                   "file fits"));
+    maxKilobytesLabel = new QLabel(tr("Largest file:"));
+    limitsForm->addRow(maxKilobytesLabel, maxKilobytesBox);
     limitsForm->addRow(tr("Background:"), backgroundButton);
     limitsForm->addRow(shortExtensionsBox);
 
@@ -169,7 +172,9 @@ void AppSettingsDialog::slotLoadSettings()
 
 void AppSettingsDialog::slotFormatChanged()
 {
-    const bool jpeg = formatCombo->currentText() == "JPEG";
-    qualityLabel->setEnabled(jpeg);
-    qualitySlider->setEnabled(jpeg);
+    const QString format = formatCombo->currentText();
+    qualityLabel->setEnabled(OutputSettings::takesQuality(format));
+    qualitySlider->setEnabled(OutputSettings::takesQuality(format));
+    maxKilobytesLabel->setEnabled(OutputSettings::takesSizeBudget(format));
+    maxKilobytesBox->setEnabled(OutputSettings::takesSizeBudget(format));
 }

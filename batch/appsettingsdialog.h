@@ -1,4 +1,4 @@
-// The output settings: format and JPEG quality, renaming and numbering, opening the folder,
+// The output settings: format and quality, renaming and numbering, opening the folder,
 // the largest photo, the metadata the results keep, the folder they go into and their colours.
 #pragma once
 
@@ -26,7 +26,8 @@ public slots:
     // Stores the six settings and closes the dialog as accepted.
     void slotSaveSettings();
     void slotLoadSettings();
-    // The quality applies to "JPEG" only; the value stays as it is either way.
+    // The quality and the size budget apply only to the formats that take them; the values stay
+    // as they are either way.
     void slotFormatChanged();
 
 private:
@@ -40,6 +41,7 @@ private:
     QSpinBox* maxMegapixelsBox = nullptr;
     OrkWidgets::ColorButton* backgroundButton = nullptr;
     QCheckBox* shortExtensionsBox = nullptr;
+    QLabel* maxKilobytesLabel = nullptr;
     QSpinBox* maxKilobytesBox = nullptr;
     QComboBox* metadataCombo = nullptr;
     QLineEdit* artistEdit = nullptr;

@@ -5,14 +5,33 @@
 #include <QImageReader>
 #include <QStringList>
 
+#include <libheif/heif.h>
+
+#include <memory>
+
 namespace PhotoFiles {
 
 namespace {
 
-bool isImageFile(const QFileInfo& info)
+bool isPhotoFile(const QFileInfo& info)
 {
-    static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    return formats.contains(info.suffix().toLower().toLatin1());
+    static const QStringList suffixes = readableSuffixes();
+    return suffixes.contains(info.suffix().toLower());
+}
+
+// What libheif reads from the boxes alone: the primary image's size, the one the reader decodes.
+QSize heifSize(const QString& path)
+{
+    const std::unique_ptr<heif_context, void (*)(heif_context*)> context(heif_context_alloc(),
+                                                                         heif_context_free);
+    heif_image_handle* handle = nullptr;
+    if (heif_context_read_from_file(context.get(), QFile::encodeName(path).constData(), nullptr)
+                .code != heif_error_Ok ||
+        heif_context_get_primary_image_handle(context.get(), &handle).code != heif_error_Ok)
+        return {};
+    const QSize size(heif_image_handle_get_width(handle), heif_image_handle_get_height(handle));
+    heif_image_handle_release(handle);
+    return size;
 }
 
 // Symbolic links to folders are not followed, so that a link back up cannot loop forever.
@@ -25,7 +44,7 @@ void appendFolder(const QString& folder, QList<QUrl>& urls)
         if (entry.isDir()) {
             if (!entry.isSymLink())
                 appendFolder(entry.filePath(), urls);
-        } else if (isImageFile(entry)) {
+        } else if (isPhotoFile(entry)) {
             urls << QUrl::fromLocalFile(entry.filePath());
         }
     }
@@ -86,15 +105,37 @@ QList<QUrl> expandFolders(const QList<QUrl>& urls, QHash<QString, QString>* foun
     return expanded;
 }
 
-QString namePatterns()
+bool isDrawing(const QByteArray& format)
 {
-    QStringList patterns;
+    return format.startsWith("svg") || format.startsWith("eps");
+}
+
+QStringList readableSuffixes(bool withDrawings)
+{
+    QStringList suffixes;
     const QList<QByteArray> formats = QImageReader::supportedImageFormats();
     for (const QByteArray& format : formats) {
-        const QString suffix = QString::fromLatin1(format);
-        patterns << "*." + suffix << "*." + suffix.toUpper();
+        if (withDrawings || !isDrawing(format))
+            suffixes << QString::fromLatin1(format);
     }
+    return suffixes;
+}
+
+QString namePatterns(bool withDrawings)
+{
+    QStringList patterns;
+    const QStringList suffixes = readableSuffixes(withDrawings);
+    for (const QString& suffix : suffixes)
+        patterns << "*." + suffix << "*." + suffix.toUpper();
     return patterns.join(' ');
+}
+
+QSize storedSize(QImageReader& reader)
+{
+    if (reader.format() != "heif")
+        return reader.size();
+    const auto* file = qobject_cast<const QFileDevice*>(reader.device());
+    return file ? heifSize(file->fileName()) : QSize();
 }
 
 } // namespace PhotoFiles

@@ -5,8 +5,10 @@
 #include <QImage>
 #include <QList>
 #include <QSize>
+#include <QStringList>
 #include <QUrl>
 
+class QImageReader;
 class QString;
 
 namespace PhotoFiles {
@@ -29,8 +31,21 @@ QSize reducedSize(const QSize& fullSize, int divisor);
 // foundIn, when given, gets for each photo found inside a folder (by its local path) that folder.
 QList<QUrl> expandFolders(const QList<QUrl>& urls, QHash<QString, QString>* foundIn = nullptr);
 
-// "*.bmp *.BMP *.jpg *.JPG ...": the names of every format the reader knows, in both cases,
-// for file dialogs (a desktop's own dialog may match names case-sensitively).
-QString namePatterns();
+// Whether format (a reader's format name or a file suffix, lower case) is a vector drawing: SVG,
+// which may read local files, or EPS, which is a program. Drawings are never taken as photos.
+bool isDrawing(const QByteArray& format);
+
+// The file suffixes of every format the image reader knows (camera RAW, HEIF, AVIF, JPEG XL, PSD
+// and the rest), in lower case; drawings only when asked for.
+QStringList readableSuffixes(bool withDrawings = false);
+
+// "*.bmp *.BMP *.jpg *.JPG ...": readableSuffixes in both cases, for file dialogs (a desktop's
+// own dialog may match names case-sensitively).
+QString namePatterns(bool withDrawings = false);
+
+// The photo's pixel size as stored, read without decoding it; invalid when it cannot be read so.
+// The HEIF reader decodes the whole photo to tell its size, so a HEIF file's size comes from
+// its container instead.
+QSize storedSize(QImageReader& reader);
 
 } // namespace PhotoFiles

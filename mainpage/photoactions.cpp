@@ -59,6 +59,8 @@ void PhotoActions::slotAddPhotos()
     QFileDialog dialog(dialogParent, tr("Add Photos"), startFolder(),
                        tr("Photos (%1);;All Files (*)").arg(PhotoFiles::namePatterns()));
     dialog.setFileMode(QFileDialog::ExistingFiles);
+    // Camera RAW alone brings some forty suffixes: the filter shows its name only.
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
     QList<QUrl> chosen;

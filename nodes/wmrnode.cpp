@@ -217,7 +217,7 @@ void WMRNode::slotWMRBrowse()
 {
     const QString fileName = QFileDialog::getOpenFileName(
         this, tr("Open the watermark file"), QString(),
-        tr("Images (%1);;All files (*)").arg(PhotoFiles::namePatterns()));
+        tr("Images (%1);;All files (*)").arg(PhotoFiles::namePatterns(true)));
     if (!fileName.isEmpty())
         openLogoFile(fileName);
 }

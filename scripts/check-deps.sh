@@ -19,7 +19,12 @@ runtime_files=(/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf
     /usr/lib/x86_64-linux-gnu/qt5/plugins/platforms/libqoffscreen.so
     /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/libqtiff.so
     /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/libqwebp.so
-    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/libqsvg.so)
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/libqsvg.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_raw.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_heif.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_avif.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_jxl.so
+    /usr/lib/x86_64-linux-gnu/qt5/plugins/imageformats/kimg_psd.so)
 
 cmake -S "$root" -B "$build" -DCMAKE_BUILD_TYPE=Release >/dev/null
 
@@ -46,13 +51,14 @@ paths+=("${runtime_files[@]}")
 paths+=("$(c++ -print-file-name=libasan.so)" "$(c++ -print-file-name=libubsan.so)"
     "$(clang++ -print-resource-dir)/lib/linux/libclang_rt.fuzzer-x86_64.a")
 
-# The package that owns a path, through links and the /bin - /usr/bin merge.
-owner() {
+# The packages that own a path, one a line (a folder such as /usr/include has many), through
+# links and the /bin - /usr/bin merge.
+owners() {
     local path candidate
     for candidate in "$1" "$(readlink -f "$1")"; do
         for path in "$candidate" "${candidate#/usr}"; do
-            dpkg -S "$path" 2>/dev/null | grep -v '^diversion' | head -n 1 | cut -d: -f1 |
-                cut -d, -f1 && return 0
+            dpkg -S "$path" 2>/dev/null | grep -v '^diversion' | head -n 1 | sed 's/: [^:]*$//' |
+                tr ',' '\n' | sed 's/^ *//; s/:.*//' && return 0
         done
     done
     return 1
@@ -64,12 +70,12 @@ covered=$(apt-cache depends --recurse --no-recommends --no-suggests --no-conflic
 
 failed=0
 for path in "${paths[@]}"; do
-    package=$(owner "$path") || package=
-    if [ -z "$package" ]; then
+    packages=$(owners "$path") || packages=
+    if [ -z "$packages" ]; then
         echo "check-deps: no Debian package owns $path" >&2
         failed=1
-    elif ! grep -qx "$package" <<<"$covered"; then
-        echo "check-deps: $path comes from $package, which scripts/install-deps.sh does not install" >&2
+    elif ! grep -qxF -f <(printf '%s\n' "$packages") <<<"$covered"; then
+        echo "check-deps: $path comes from ${packages//$'\n'/ or }, which scripts/install-deps.sh does not install" >&2
         failed=1
     fi
 done

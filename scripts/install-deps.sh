@@ -15,6 +15,7 @@ packages=(
     xvfb xauth imagemagick
     appstream desktop-file-utils shared-mime-info
     clang libclang-rt-14-dev
+    kimageformat-plugins libheif-dev
 )
 
 if [ "${1:-}" = --list ]; then

@@ -3,6 +3,7 @@
 #include "colorprofiles.h"
 #include "operationcatalogue.h"
 #include "outputnaming.h"
+#include "photofiles.h"
 #include "threadmessages.h"
 
 #include <QBuffer>
@@ -16,6 +17,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <functional>
 #include <sys/stat.h>
 #include <sys/types.h>
 
@@ -92,6 +94,29 @@ bool writeAll(QFileDevice& file, const QByteArray& bytes)
             return false;
     }
     return true;
+}
+
+// The encoding at the highest quality up to best whose size is at most budget bytes, searched
+// by bisection: seven encodes at most for a best up to 127. When none fits, fits is false and the
+// encoding at quality 1 comes back; an encoder failure gives empty bytes.
+QByteArray highestQualityWithin(qint64 budget, int best,
+                                const std::function<QByteArray(int)>& encode, bool& fits)
+{
+    QByteArray fitting;
+    QByteArray smallest;
+    for (int low = 1, high = best; low <= high;) {
+        const int middle = (low + high) / 2;
+        const QByteArray tried = encode(middle);
+        if (!tried.isEmpty() && tried.size() <= budget) {
+            fitting = tried;
+            low = middle + 1;
+        } else {
+            smallest = tried;
+            high = middle - 1;
+        }
+    }
+    fits = !fitting.isEmpty();
+    return fits ? fitting : smallest;
 }
 
 } // namespace
@@ -250,29 +275,15 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
                                                           image.colorSpace().iccProfile())
                                      : QByteArray();
     };
-    // With a size budget the highest quality whose file fits is searched by bisection (seven
-    // encodes at most for a quality up to 127); a photo that fits not even at quality 1 is
-    // written at 1 and said so.
+    // A photo that fits its budget not even at quality 1 is written at 1 and said so.
     const qint64 budget = qint64(settings.maxKilobytes) * 1024;
     QByteArray bytes;
     QString note;
-    if (budget > 0 && settings.format == "JPEG") {
-        QByteArray smallest;
-        for (int low = 1, high = settings.quality; low <= high;) {
-            const int middle = (low + high) / 2;
-            const QByteArray tried = encode(middle);
-            if (!tried.isEmpty() && tried.size() <= budget) {
-                bytes = tried;
-                low = middle + 1;
-            } else {
-                smallest = tried;
-                high = middle - 1;
-            }
-        }
-        if (bytes.isEmpty()) {
-            bytes = smallest;
+    if (budget > 0 && OutputSettings::takesSizeBudget(settings.format)) {
+        bool fits = false;
+        bytes = highestQualityWithin(budget, settings.quality, encode, fits);
+        if (!fits)
             note = tr("larger than %1 KB even at quality 1").arg(settings.maxKilobytes);
-        }
     } else {
         bytes = encode(settings.writerQuality());
     }
@@ -309,9 +320,15 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget, bo
                     : tr("unreadable: %1").arg(file.errorString())};
     }
     QImageReader reader(&file);
-    if (reader.format().startsWith("svg"))
-        return {{}, tr("unreadable: a drawing (SVG), not a photo")};
-    const QSize size = reader.size();
+    if (PhotoFiles::isDrawing(reader.format()))
+        return {{},
+                tr("unreadable: a drawing (%1), not a photo")
+                    .arg(QString::fromLatin1(reader.format().toUpper()))};
+    const QSize size = PhotoFiles::storedSize(reader);
+    // A reader that tells sizes but finds none (a RAW or HEIF file it cannot parse) would
+    // decode blind.
+    if (!size.isValid() && reader.supportsOption(QImageIOHandler::Size))
+        return {{}, tr("unreadable: its size cannot be read")};
     if (size.isValid() && qint64(size.width()) * size.height() > pixelBudget)
         return {{}, tooLarge(size)};
     const ThreadMessages decoder;

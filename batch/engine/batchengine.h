@@ -104,8 +104,9 @@ public:
     // The photo with its EXIF orientation applied, in 32-bit ARGB, and its metadata. Only a regular
     // file is read; its size is read from its header first and a photo above pixelBudget is refused
     // undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged and
-    // not taken, whatever it decoded. SVG drawings are not photos: they may read local files.
-    // With toSrgb its pixels are converted from its colour profile to sRGB (ColorProfiles).
+    // not taken, whatever it decoded. Drawings (SVG, EPS) are not photos. A photo whose reader
+    // tells sizes but cannot tell this one's is refused undecoded. With toSrgb its pixels are
+    // converted from its colour profile to sRGB (ColorProfiles).
     static Photo load(const QString& path, qint64 pixelBudget, bool toSrgb = false);
     // The operations in order through their headless forms. An image an operation leaves
     // empty is reported instead of being handed to the next one, and one that would grow past

@@ -95,7 +95,17 @@ bool OutputSettings::keepsTransparency() const
 
 QStringList OutputSettings::formats()
 {
-    return {"JPEG", "PNG", "BMP", "TIFF", "PPM", "XPM"};
+    return {"JPEG", "PNG", "BMP", "TIFF", "PPM", "XPM", "WEBP", "AVIF", "JXL", "HEIC"};
+}
+
+bool OutputSettings::takesQuality(const QString& format)
+{
+    return takesSizeBudget(format) || format == "HEIC";
+}
+
+bool OutputSettings::takesSizeBudget(const QString& format)
+{
+    return format == "JPEG" || format == "WEBP" || format == "AVIF" || format == "JXL";
 }
 
 qint64 OutputSettings::pixelBudget() const
@@ -105,5 +115,5 @@ qint64 OutputSettings::pixelBudget() const
 
 int OutputSettings::writerQuality() const
 {
-    return format == "JPEG" ? quality : -1;
+    return takesQuality(format) ? quality : -1;
 }

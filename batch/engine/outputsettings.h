@@ -9,7 +9,7 @@ struct OutputSettings
 {
     bool openLocation = true;    // "KeyOpenLocation": open the destination when a run ends
     QString format = "JPEG";     // "KeyFormat": one of formats()
-    int quality = 90;            // "KeyQuality": 1..100, used for "JPEG" only
+    int quality = 90;            // "KeyQuality": 1..100, for the formats takesQuality names
     bool rename = false;         // "KeyRename"
     QString newName = "NewName"; // "KeyNewName": prefix of the new names
     int numbers = 0;             // "KeyNumbers": 0 all, 1 odd, 2 even
@@ -20,7 +20,8 @@ struct OutputSettings
     // "KeyBackground": what transparent pixels are laid on in a format without transparency.
     QColor background = Qt::white;
     bool shortExtensions = false; // "KeyShortExtensions": ".jpg" and ".tif" instead of the names
-    int maxKilobytes = 0;         // "KeyMaxKilobytes": the largest JPEG file, 0 for no limit
+    // "KeyMaxKilobytes": the largest file in a format takesSizeBudget names, 0 for no limit.
+    int maxKilobytes = 0;
     // "KeyConvertToSrgb": pixels converted from the photo's colour profile to sRGB before the flow.
     bool convertToSrgb = false;
     // "KeySaveInto": the folder the results go into; empty for a new time-stamped folder under
@@ -35,11 +36,17 @@ struct OutputSettings
     // Writes the six keys in the order the settings dialog saves them, then the newer ones.
     void save() const;
 
-    // The output formats in the order the settings dialog lists them.
+    // The output formats in the order the settings dialog lists them: the six first, then the
+    // newer ones that KDE's image format plugins write.
     static QStringList formats();
+    // Whether the quality applies to format: "JPEG", "WEBP", "AVIF", "JXL" and "HEIC".
+    static bool takesQuality(const QString& format);
+    // Whether a size budget applies to format: those that take a quality but "HEIC", whose
+    // encoder is too slow to try seven qualities a photo.
+    static bool takesSizeBudget(const QString& format);
 
-    // The quality handed to the image writer: the stored one for "JPEG", else the format's default
-    // (-1).
+    // The quality handed to the image writer: the stored one where it applies, else the format's
+    // default (-1).
     int writerQuality() const;
     // maxMegapixels in pixels.
     qint64 pixelBudget() const;

@@ -28,12 +28,14 @@ void lockXmp(void*, bool lock)
 }
 
 // The XMP toolkit is not thread-safe and the next photo is read while this one is written;
-// Exiv2's own warnings would reach the terminal past the tool's reports.
+// Exiv2's own warnings would reach the terminal past the tool's reports. HEIF, AVIF and CR3
+// photos (ISO media files) carry EXIF and XMP too, which Exiv2 reads only when asked to.
 void initialise()
 {
     static std::once_flag once;
     std::call_once(once, [] {
         Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        Exiv2::enableBMFF(true);
         Exiv2::XmpParser::initialize(lockXmp, nullptr);
     });
 }
@@ -144,6 +146,9 @@ PhotoMetadata PhotoMetadata::read(const QString& path)
         // A file, never a URL: FileIo opens it for reading only.
         Exiv2::BasicIo::AutoPtr io(new Exiv2::FileIo(QFile::encodeName(path).toStdString()));
         auto image = Exiv2::ImageFactory::open(io);
+        // A kind of file Exiv2 does not know (a bare JPEG XL stream, PCX) gives no image at all.
+        if (!image.get())
+            return metadata;
         image->readMetadata();
         metadata.data = std::make_shared<const Data>(
             Data{image->exifData(), image->iptcData(), image->xmpData()});
@@ -172,6 +177,8 @@ QByteArray PhotoMetadata::embedInto(const QByteArray& encoded, QSize size,
         initialise();
         auto image = Exiv2::ImageFactory::open(
             reinterpret_cast<const Exiv2::byte*>(encoded.constData()), encoded.size());
+        if (!image.get())
+            return encoded;
         // The writer's own tags (a TIFF's strips, the ICC profile) stay as they are.
         image->readMetadata();
         // Qt's PNG and TIFF writers leave out a profile Qt cannot read. Exiv2 writes PNG's

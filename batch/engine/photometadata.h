@@ -19,7 +19,7 @@ public:
     // read. Safe on any thread.
     static PhotoMetadata read(const QString& path);
 
-    // encoded (a whole JPEG, PNG or TIFF file) with this metadata written into it as settings
+    // encoded (a whole JPEG, PNG, TIFF or WebP file) with this metadata written into it as settings
     // choose, for a result of size that is upright and carries no thumbnail, and with the ICC
     // profile iccProfile where the image writer left it out. The bytes come back unchanged when
     // there is nothing to carry or the format or the data cannot take it.

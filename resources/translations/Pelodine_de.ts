@@ -90,11 +90,16 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Largest JPEG file:</source>
-        <translation>Größte JPEG-Datei:</translation>
+        <source>For JPEG, WEBP, AVIF and JXL: the highest quality whose file fits</source>
+        <translation>Für JPEG, WEBP, AVIF und JXL: die höchste Qualität, deren Datei passt</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
+        <source>Largest file:</source>
+        <translation>Größte Datei:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Background:</source>
         <translation>Hintergrund:</translation>
     </message>
@@ -259,7 +264,7 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+195"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+220"/>
         <source>no photo at position %1</source>
         <translation>kein Foto an Position %1</translation>
     </message>
@@ -269,7 +274,7 @@
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-141"/>
+        <location line="-164"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
@@ -289,7 +294,7 @@
         <translation>Schreiben nicht möglich: keine Berechtigung</translation>
     </message>
     <message>
-        <location line="+55"/>
+        <location line="+78"/>
         <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
         <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
     </message>
@@ -320,12 +325,12 @@
         <translation>Schreiben nicht möglich: %1 existiert bereits</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+26"/>
         <source>larger than %1 KB even at quality 1</source>
         <translation>größer als %1 KB selbst bei Qualität 1</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>cannot write: the %1 writer failed</source>
         <translation>Schreiben nicht möglich: der %1-Schreiber scheiterte</translation>
     </message>
@@ -345,12 +350,17 @@
         <translation>nicht lesbar: %1</translation>
     </message>
     <message>
-        <location line="+4"/>
-        <source>unreadable: a drawing (SVG), not a photo</source>
-        <translation>nicht lesbar: eine Zeichnung (SVG), kein Foto</translation>
+        <location line="+5"/>
+        <source>unreadable: a drawing (%1), not a photo</source>
+        <translation>nicht lesbar: eine Zeichnung (%1), kein Foto</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
+        <source>unreadable: its size cannot be read</source>
+        <translation>nicht lesbar: seine Größe lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <location line="+6"/>
         <source>damaged: %1</source>
         <translation>beschädigt: %1</translation>
     </message>
@@ -360,12 +370,12 @@
         <translation>nicht lesbar: kein Foto, das dieses Programm lesen kann</translation>
     </message>
     <message>
-        <location line="-23"/>
+        <location line="-29"/>
         <source>unreadable: no such file</source>
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="-227"/>
+        <location line="-236"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -951,7 +961,7 @@ Overwrite?</source>
         <translation>Fotos (%1);;Alle Dateien (*)</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+16"/>
         <source>Add Folder</source>
         <translation>Ordner hinzufügen</translation>
     </message>
@@ -1302,12 +1312,7 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>Das Ausgabeformat; die Dateiendung ist sein Name in Kleinbuchstaben.</translation>
     </message>
     <message>
-        <location line="+3"/>
-        <source>The JPEG quality.</source>
-        <translation>Die JPEG-Qualität.</translation>
-    </message>
-    <message>
-        <location line="+2"/>
+        <location line="+7"/>
         <source>Name the files NAME followed by a number instead of the photo&apos;s name.</source>
         <translation>Die Dateien NAME mit angehängter Nummer statt nach dem Foto benennen.</translation>
     </message>
@@ -1342,12 +1347,7 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>Was die Ergebnisse von EXIF, IPTC und XMP der Fotos behalten: alles, alles außer dem Aufnahmeort (GPS- und Ortsfelder) oder nichts. Vorgabe: keep.</translation>
     </message>
     <message>
-        <location line="+6"/>
-        <source>Keep every JPEG file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
-        <translation>Jede JPEG-Datei höchstens N Kilobyte groß halten: die höchste Qualität bis --quality, die passt; ein Foto, das selbst bei Qualität 1 nicht passt, wird mit 1 geschrieben und genannt.</translation>
-    </message>
-    <message>
-        <location line="+6"/>
+        <location line="+12"/>
         <source>The colour transparent pixels are laid on in JPEG, BMP and PPM, as a name or #rrggbb. Default: white.</source>
         <translation>Die Farbe, auf die transparente Pixel in JPEG, BMP und PPM gelegt werden, als Name oder #rrggbb. Vorgabe: weiß.</translation>
     </message>
@@ -1515,7 +1515,17 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>keine Fotos in den angegebenen Ordnern</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="-217"/>
+        <source>The quality of JPEG, WEBP, AVIF, JXL and HEIC.</source>
+        <translation>Die Qualität von JPEG, WEBP, AVIF, JXL und HEIC.</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Keep every JPEG, WEBP, AVIF or JXL file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
+        <translation>Jede JPEG-, WEBP-, AVIF- oder JXL-Datei höchstens N Kilobyte groß halten: die höchste Qualität bis --quality, die passt; ein Foto, das selbst bei Qualität 1 nicht passt, wird mit 1 geschrieben und genannt.</translation>
+    </message>
+    <message>
+        <location line="+204"/>
         <location line="+101"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>

@@ -90,11 +90,16 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Largest JPEG file:</source>
-        <translation>Наибольший файл JPEG:</translation>
+        <source>For JPEG, WEBP, AVIF and JXL: the highest quality whose file fits</source>
+        <translation>Для JPEG, WEBP, AVIF и JXL: наибольшее качество, при котором файл помещается</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
+        <source>Largest file:</source>
+        <translation>Наибольший файл:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Background:</source>
         <translation>Фон:</translation>
     </message>
@@ -259,7 +264,7 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+195"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+220"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
@@ -269,7 +274,7 @@
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-141"/>
+        <location line="-164"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
@@ -289,7 +294,7 @@
         <translation>запись невозможна: нет прав доступа</translation>
     </message>
     <message>
-        <location line="+55"/>
+        <location line="+78"/>
         <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
         <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
     </message>
@@ -320,12 +325,12 @@
         <translation>запись невозможна: %1 уже существует</translation>
     </message>
     <message>
-        <location line="+39"/>
+        <location line="+26"/>
         <source>larger than %1 KB even at quality 1</source>
         <translation>больше %1 КБ даже при качестве 1</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
         <source>cannot write: the %1 writer failed</source>
         <translation>запись невозможна: ошибка записи %1</translation>
     </message>
@@ -345,12 +350,17 @@
         <translation>не читается: %1</translation>
     </message>
     <message>
-        <location line="+4"/>
-        <source>unreadable: a drawing (SVG), not a photo</source>
-        <translation>не читается: рисунок (SVG), а не фотография</translation>
+        <location line="+5"/>
+        <source>unreadable: a drawing (%1), not a photo</source>
+        <translation>не читается: рисунок (%1), а не фотография</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+6"/>
+        <source>unreadable: its size cannot be read</source>
+        <translation>не читается: не удаётся прочитать её размер</translation>
+    </message>
+    <message>
+        <location line="+6"/>
         <source>damaged: %1</source>
         <translation>повреждён: %1</translation>
     </message>
@@ -360,12 +370,12 @@
         <translation>не читается: это не фото, которое может прочитать программа</translation>
     </message>
     <message>
-        <location line="-23"/>
+        <location line="-29"/>
         <source>unreadable: no such file</source>
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="-227"/>
+        <location line="-236"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -951,7 +961,7 @@ Overwrite?</source>
         <translation>Фото (%1);;Все файлы (*)</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+16"/>
         <source>Add Folder</source>
         <translation>Добавить папку</translation>
     </message>
@@ -1302,12 +1312,7 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>Формат вывода; расширение файла — его имя строчными буквами.</translation>
     </message>
     <message>
-        <location line="+3"/>
-        <source>The JPEG quality.</source>
-        <translation>Качество JPEG.</translation>
-    </message>
-    <message>
-        <location line="+2"/>
+        <location line="+7"/>
         <source>Name the files NAME followed by a number instead of the photo&apos;s name.</source>
         <translation>Называть файлы NAME с номером вместо имени фото.</translation>
     </message>
@@ -1342,12 +1347,7 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>Что результаты сохраняют из EXIF, IPTC и XMP фотографий: всё, всё кроме места съёмки (GPS и поля местоположения) или ничего. По умолчанию: keep.</translation>
     </message>
     <message>
-        <location line="+6"/>
-        <source>Keep every JPEG file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
-        <translation>Держать каждый файл JPEG не больше N килобайт: наибольшее качество до --quality, которое подходит; фотография, которая не подходит даже при качестве 1, записывается с качеством 1 и называется.</translation>
-    </message>
-    <message>
-        <location line="+6"/>
+        <location line="+12"/>
         <source>The colour transparent pixels are laid on in JPEG, BMP and PPM, as a name or #rrggbb. Default: white.</source>
         <translation>Цвет, на который кладутся прозрачные пиксели в JPEG, BMP и PPM, в виде имени или #rrggbb. По умолчанию: белый.</translation>
     </message>
@@ -1516,7 +1516,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>в указанных папках нет фото</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="-217"/>
+        <source>The quality of JPEG, WEBP, AVIF, JXL and HEIC.</source>
+        <translation>Качество JPEG, WEBP, AVIF, JXL и HEIC.</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Keep every JPEG, WEBP, AVIF or JXL file at most N kilobytes: the highest quality up to --quality that fits; a photo that fits not even at quality 1 is written at 1 and named.</source>
+        <translation>Держать каждый файл JPEG, WEBP, AVIF или JXL не больше N килобайт: наибольшее качество до --quality, которое подходит; фотография, которая не подходит даже при качестве 1, записывается с качеством 1 и называется.</translation>
+    </message>
+    <message>
+        <location line="+204"/>
         <location line="+101"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>

@@ -124,6 +124,49 @@ QMap<QString, QString> metadataOf(const QString& path)
     return found;
 }
 
+// Gradients under noise in all three channels, so that each quality gives another file size.
+QImage texturedPhoto(int width, int height)
+{
+    QImage photo(width, height, QImage::Format_RGB32);
+    QRandomGenerator random(12);
+    for (int y = 0; y < height; ++y) {
+        auto* row = reinterpret_cast<QRgb*>(photo.scanLine(y));
+        for (int x = 0; x < width; ++x) {
+            const int noise = int(random.bounded(64));
+            row[x] = qRgb(x / 2 + noise, y + noise / 2, (x + y) / 3 + 64 - noise);
+        }
+    }
+    return photo;
+}
+
+// A linear DNG as a raw converter writes it, by hand: 16-bit RGB samples, red on the left half
+// and blue on the right, after the TIFF header and one IFD whose eight entries (tag, type 1 byte,
+// 3 short or 4 long, count, value) all hold their value in place: width, height, bits a sample,
+// linear raw, where the pixels start, samples a pixel, how many bytes they are, DNG 1.4.0.0.
+QByteArray tinyDng(int width, int height)
+{
+    QByteArray dng;
+    QDataStream out(&dng, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << quint16(0x4949) << quint16(42) << quint32(8) << quint16(8);
+    const int entries[][4] = {{256, 4, 1, width},
+                              {257, 4, 1, height},
+                              {258, 3, 1, 16},
+                              {262, 3, 1, 34892},
+                              {273, 4, 1, 8 + 2 + 8 * 12 + 4},
+                              {277, 3, 1, 3},
+                              {279, 4, 1, width * height * 6},
+                              {50706, 1, 4, 0x0401}};
+    for (const auto& entry : entries)
+        out << quint16(entry[0]) << quint16(entry[1]) << quint32(entry[2]) << quint32(entry[3]);
+    out << quint32(0);
+    for (int i = 0; i < width * height; ++i) {
+        const bool left = i % width < width / 2;
+        out << quint16(left ? 50000 : 3000) << quint16(3000) << quint16(left ? 3000 : 50000);
+    }
+    return dng;
+}
+
 } // namespace
 
 class TestBatch : public QObject
@@ -418,6 +461,9 @@ private slots:
         // An empty value: the key is absent. "nothing": no metadata at all.
         for (const QString format : {"JPEG", "PNG", "TIFF"})
             addRow(qPrintable(format + " keep"), format, "", kept + location);
+        // WebP has no place for IPTC.
+        addRow("WEBP keep", "WEBP", "",
+               QString(kept).replace("Keywords=beach", "Keywords=") + location);
         addRow("remove location", "PNG", "--metadata strip-location", kept + noLocation);
         addRow("remove all", "JPEG", "--metadata strip", "nothing");
         addRow("author over kept", "TIFF", "--artist Bo --copyright (c)_Bo",
@@ -594,6 +640,10 @@ private slots:
                 row[x] = qRgb(x / 16, y / 12, (x + y) / 28 + int(random.bounded(24)));
         }
         const QString source = TestUtils::writeImage(in + "/big.png", photo);
+        // At the usual 90 the file would be far larger: the budget is met well below it.
+        QBuffer usual;
+        usual.open(QIODevice::WriteOnly);
+        QVERIFY(photo.save(&usual, "JPEG", 90) && usual.size() > 2 * 200 * 1024);
         const QString none = TestUtils::writeFile(in + "/none.flow", "<OperationsFlow/>");
         const QStringList arguments{"--flow", none, "--output", out, source};
         QCOMPARE(run(QStringList{"--max-kb", "200"} + arguments).exitCode, 0);
@@ -634,6 +684,67 @@ private slots:
         QCOMPARE(fileNames(out), QString("sheet.png"));
         QVERIFY(!QDir(OrkTools::AppData::outputBaseFolder()).exists());
         QCOMPARE(QImage(out + "sheet.png").size(), sheet.image().size());
+    }
+
+    void newFormats_data()
+    {
+        addColumns<QString, QString>("format", "file");
+        addRow("WEBP", "WEBP", "p.webp");
+        addRow("AVIF", "avif", "p.avif");
+        addRow("JXL", "JXL", "p.jxl");
+        addRow("HEIC", "HEIC", "p.heic");
+    }
+
+    // Written at the quality asked for (less gives a smaller file) and read back whole at the
+    // photo's odd size; where a size budget applies, the file meets it from below.
+    void newFormats()
+    {
+        auto [format, file] = fetch<QString, QString>("format", "file");
+        const QString source = TestUtils::writeImage(in + "/p.png", texturedPhoto(255, 191));
+        const QString none = TestUtils::writeFile(in + "/none.flow", "<OperationsFlow/>");
+        const auto sizeWith = [&](const QStringList& options) {
+            const QStringList arguments{"--format", format,     "--overwrite", "--flow",
+                                        none,       "--output", out,           source};
+            const bool read = run(options + arguments).exitCode == 0 &&
+                              QImage(out + file).size() == QSize(255, 191);
+            return read ? QFileInfo(out + file).size() : -1;
+        };
+        const qint64 high = sizeWith({"--quality", "90"});
+        const qint64 low = sizeWith({"--quality", "20"});
+        QVERIFY2(low > 0 && low < high, qPrintable(QString("%1 %2").arg(low).arg(high)));
+        if (file != "p.heic") {
+            const qint64 fitted = sizeWith({"--max-kb", "6"});
+            QVERIFY2(fitted > 3 * 1024 && fitted <= 6 * 1024, qPrintable(QString::number(fitted)));
+        }
+        QCOMPARE(fileNames(out), file);
+    }
+
+    void newReaders_data()
+    {
+        addColumns<QString, QByteArray>("file", "bytes");
+        addRow("camera RAW", "p.dng", tinyDng(64, 48));
+        // No bytes: the picture written by Qt's writer for the suffix.
+        addRow("HEIC", "p.heic", QByteArray());
+        addRow("AVIF", "p.avif", QByteArray());
+        addRow("JPEG XL", "p.jxl", QByteArray());
+    }
+
+    // Read through the engine at their size and the right way round (red left, blue right);
+    // the size comes from the header, so the pixel budget is met before decoding.
+    void newReaders()
+    {
+        auto [file, bytes] = fetch<QString, QByteArray>("file", "bytes");
+        const QString path =
+            bytes.isEmpty()
+                ? TestUtils::writeImage(in + "/" + file, TestUtils::halvesPicture(64, 48))
+                : TestUtils::writeFile(in + "/" + file, bytes);
+        const BatchEngine::Photo photo = BatchEngine::load(path, 64 * 48);
+        QCOMPARE(photo.error, QString());
+        QCOMPARE(photo.image.size(), QSize(64, 48));
+        const QRgb left = photo.image.pixel(2, 24);
+        const QRgb right = photo.image.pixel(61, 24);
+        QVERIFY(qRed(left) > 2 * qBlue(left) && qBlue(right) > 2 * qRed(right));
+        QCOMPARE(BatchEngine::load(path, 64 * 48 - 1).error, QString("too large: 64 x 48"));
     }
 
 private:

@@ -175,14 +175,16 @@ private slots:
             random.fillRange(reinterpret_cast<quint32*>(noise.scanLine(y)), noise.width());
         const QByteArray jpeg = TestUtils::jpegWithOrientation(noise, 1);
         const QStringList photos{
-            photo("keep.jpeg"),
-            in + "/fifo.jpg",
-            "/dev/zero",
-            in + "/gone.png",
+            photo("keep.jpeg"), in + "/fifo.jpg", "/dev/zero", in + "/gone.png",
             TestUtils::writeFile(in + "/drawing.svg",
                                  "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'/>"),
             TestUtils::writeFile(in + "/b.png", "no photo"),
             TestUtils::writeFile(in + "/cut.jpg", jpeg.left(jpeg.size() / 2)),
+            TestUtils::writeFile(in + "/page.eps", "%!PS-Adobe-3.0 EPSF-3.0\n"),
+            // A HEIF file type box and nothing after it: no image to tell a size.
+            TestUtils::writeFile(in + "/box.heic",
+                                 QByteArray::fromHex("0000001c6674797068656963000000006d696631"
+                                                     "686569636d696166")),
             photo("locked.png")};
         const QByteArray kept = TestUtils::readFile(photos.at(0));
         QFile::setPermissions(photos.last(), {});
@@ -199,15 +201,19 @@ private slots:
             "  " + photos.at(3) + ": unreadable: no such file",
             "  " + photos.at(4) + ": unreadable: a drawing (SVG), not a photo",
             "  " + photos.at(5) + ": unreadable: not a photo this program can read",
-            "  " + photos.at(6) + ": damaged: Corrupt JPEG data: premature end of data segment"};
+            "  " + photos.at(6) + ": damaged: Corrupt JPEG data: premature end of data segment",
+            "  " + photos.at(7) + ": unreadable: a drawing (EPS), not a photo",
+            "  " + photos.at(8) + ": unreadable: its size cannot be read"};
         // Root reads what nobody may read.
         if (getuid() != 0)
-            expected << "  " + photos.at(7) + ": unreadable: permission denied";
+            expected << "  " + photos.at(9) + ": unreadable: permission denied";
         expected[0] = QString("%1 photo(s) failed:").arg(expected.size() - 1);
         QCOMPARE(outcome.err.split('\n', Qt::SkipEmptyParts), expected);
         QCOMPARE(TestUtils::readFile(photos.at(0)), kept);
-        QCOMPARE(fileNames(in), QString("b.png cut.jpg drawing.svg fifo.jpg keep.jpeg %1locked.png")
-                                    .arg(getuid() != 0 ? "" : "locked.jpeg "));
+        QCOMPARE(
+            fileNames(in),
+            QString("b.png box.heic cut.jpg drawing.svg fifo.jpg keep.jpeg %1locked.png page.eps")
+                .arg(getuid() != 0 ? "" : "locked.jpeg "));
     }
 
     // A flow in another encoding is read; one the tool had to change runs only when asked.

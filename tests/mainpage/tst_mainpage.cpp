@@ -113,6 +113,8 @@ void TestMainPage::initTestCase()
     png("album/a.JPG", 4, 4);
     png("album/Sub/c.png", 4, 4);
     TestUtils::writeFile(dir.filePath("album/notes.txt"), "text");
+    for (const char* name : {"album/d.CR2", "album/e.heic", "album/f.svg", "album/g.eps"})
+        TestUtils::writeFile(dir.filePath(name), "taken by name, read later");
     TestUtils::writeFile(dir.filePath("turned.jpg"),
                          TestUtils::jpegWithOrientation(TestUtils::halvesPicture(400, 200), 6));
     TestUtils::writeFile(dir.filePath("broken.jpg"), "not a photo");
@@ -228,12 +230,12 @@ void TestMainPage::dropPhotos_data()
     QTest::addColumn<QStringList>("dropped");
     QTest::addColumn<QStringList>("expected");
 
-    // Kept in drop order; a folder's image files in name order whatever the case; a file dropped
-    // itself is kept whatever it holds.
+    // Kept in drop order; a folder's image files in name order whatever the case, camera RAW
+    // and HEIF among them but no drawings; a file dropped itself is kept whatever it holds.
     addRow("folder expands at its place", QString("area"),
            QStringList{"large.png", "album", "album/notes.txt"},
-           QStringList{"large.png", "album/a.JPG", "album/b.png", "album/Sub/c.png",
-                       "album/notes.txt"});
+           QStringList{"large.png", "album/a.JPG", "album/b.png", "album/d.CR2", "album/e.heic",
+                       "album/Sub/c.png", "album/notes.txt"});
     addRow("photos beside the area", QString("beside"), QStringList{"large.png"},
            QStringList{"large.png"});
     addRow("a path as plain text is refused", QString("text"), QStringList{"large.png"},
@@ -441,7 +443,8 @@ void TestMainPage::addingByDialog_data()
     addRow("photos, then where the last ones came from", QString("Ctrl+O"), QString("album"),
            QString("album/b.png"), QStringList{"album/b.png"});
     addRow("a folder with its subfolders", QString("folder"), QString("album"), QString("album"),
-           QStringList{"album/a.JPG", "album/b.png", "album/Sub/c.png"});
+           QStringList{"album/a.JPG", "album/b.png", "album/d.CR2", "album/e.heic",
+                       "album/Sub/c.png"});
     addRow("a folder without photos", QString("folder"), QString(), QString("empty"),
            QStringList{});
 }
@@ -488,6 +491,7 @@ void TestMainPage::addingByDialog()
                                                      : dir.filePath(lastFolder));
     if (command != "folder")
         QVERIFY2(answered.value(1).contains("*.png") && answered.value(1).contains("*.JPG") &&
+                     answered.value(1).contains("*.CR2") && !answered.value(1).contains("svg") &&
                      answered.value(2) == "All Files (*)",
                  qPrintable(answered.join('|')));
     if (added.isEmpty())
