@@ -2,6 +2,8 @@
 // preview-mode flag and the photo list model. Created on first use, never destroyed.
 #pragma once
 
+#include "textmacros.h"
+
 #include <QHash>
 #include <QString>
 
@@ -19,6 +21,8 @@ public:
     QString displayName;
     // The folder given as input that a photo of the list was found in, by the photo's path.
     QHash<QString, QString> inputFolders;
+    // The current photo as the watermark's text macros see it.
+    PhotoContext photo;
 
     ItemsModel* itemsModel();
 

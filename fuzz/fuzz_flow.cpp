@@ -75,7 +75,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const QSize announced = prepared.resultSize(image.size());
         if (pixels(announced) > pixelBudget)
             break;
-        image = prepared.apply(image);
+        image = prepared.apply(image, PhotoContext());
         checkSize(operation.first, announced, image);
         if (image.isNull())
             break;

@@ -2,6 +2,7 @@
 
 #include "commondata.h"
 #include "photofiles.h"
+#include "photometadata.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -77,12 +78,13 @@ void CreatorDropArea::takeList(const QList<QUrl>& newUrls, int newIndex, bool lo
     index = qMax(newIndex, 0);
     path = urls.isEmpty() ? QString() : urls.at(index).toLocalFile();
     showInvitation(urls.isEmpty());
+    // Before the photo is handed on, so that the flow's run sees its position and count.
+    refreshCounter();
     // An empty path shows no picture and hands on a null photo: the result side empties too.
     if (load) {
         showCurrentPhoto();
         emit dropped(true);
     }
-    refreshCounter();
     emit updateItems(urls);
 }
 
@@ -167,6 +169,13 @@ void CreatorDropArea::refreshCounter()
     data->photoCount = urls.size();
     data->currentIndex = index;
     data->displayName = CommonData::displayNameOf(path);
+    // Read once per photo, not at every run of the flow.
+    if (path != describedPath) {
+        describedPath = path;
+        data->photo = path.isEmpty() ? PhotoContext() : PhotoMetadata::read(path).describe(path);
+    }
+    data->photo.number = index + 1;
+    data->photo.count = urls.size();
 }
 
 void CreatorDropArea::dragEnterEvent(QDragEnterEvent* event)

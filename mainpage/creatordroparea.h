@@ -70,5 +70,7 @@ private:
     QList<QUrl> urls;
     int index = 0;
     QString path;
+    // The photo whose metadata the shared photo context holds.
+    QString describedPath;
     QPushButton* openButton = nullptr;
 };

@@ -86,7 +86,7 @@ void ResultThumbnails::refresh(bool force)
         const QString path = photos.at(row).toLocalFile();
         const QImage* cached = workingCopies.object(path);
         Outcome outcome{row, path, cached ? *cached : QImage(), {}};
-        QtConcurrent::run(&pool, [this, outcome, prepared, pixelBudget, run,
+        QtConcurrent::run(&pool, [this, outcome, prepared, pixelBudget, run, count = photos.size(),
                                   current = generation]() mutable {
             if (*current != run)
                 return;
@@ -94,8 +94,11 @@ void ResultThumbnails::refresh(bool force)
                 outcome.workingCopy =
                     PreviewCopy::reduced(BatchEngine::load(outcome.path, pixelBudget).image);
             if (!outcome.workingCopy.isNull()) {
+                // A watermark naming the photo's details shows them as the run will.
+                const PhotoContext photo =
+                    PhotoMetadata::read(outcome.path).describe(outcome.path, outcome.row, count);
                 const QImage result =
-                    BatchEngine::apply(outcome.workingCopy, prepared, pixelBudget).image;
+                    BatchEngine::apply(outcome.workingCopy, prepared, pixelBudget, photo).image;
                 outcome.thumbnail = ItemsModel::fitIntoThumbnail(result, ItemsModel::resultSide);
             }
             QMetaObject::invokeMethod(

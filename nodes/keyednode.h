@@ -52,7 +52,7 @@ public:
     {
         if (isActive())
             image = QtConcurrent::run(QThreadPool::globalInstance(), &Op::run, image,
-                                      self().currentValues())
+                                      self().runValues())
                         .result();
         updatePreview(image);
     }
@@ -69,6 +69,10 @@ public:
         }
         return values;
     }
+
+    // What process hands to the kernel; a node may hide it to draw something of the current
+    // photo, which is not stored (the watermark's text macros).
+    Values runValues() const { return self().currentValues(); }
 
     // The control bound to key, or nullptr for a key the node keeps itself.
     QObject* controlFor(const QString& name) const

@@ -1,6 +1,7 @@
 #include "wmrnode.h"
 
 #include "colorbutton.h"
+#include "commondata.h"
 #include "flatbutton.h"
 #include "photofiles.h"
 #include "ui/comboslider.h"
@@ -15,6 +16,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
@@ -71,6 +73,53 @@ void collectWidgets(const QLayout* layout, QVector<QWidget*>& widgets)
         else if (const QLayout* inner = item->layout())
             collectWidgets(inner, widgets);
     }
+}
+
+// What the text menu inserts, with the menu's words for it.
+const std::pair<const char*, const char*> textInserts[] = {
+    {QT_TRANSLATE_NOOP("WMRNode", "Photo name"), "{name}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "File name"), "{file}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Date taken"), "{date}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Date and time taken"), "{date:yyyy-MM-dd HH:mm}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Year taken"), "{year}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Camera"), "{camera}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Lens"), "{lens}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Artist"), "{artist}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Copyright"), "{copyright}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Photo number"), "{n}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Number of photos"), "{count}"},
+    {QT_TRANSLATE_NOOP("WMRNode", "Copyright sign"), "\u00a9"},
+};
+
+// A button at the end of edit whose menu puts each of textInserts into it at the cursor.
+void addInsertMenu(QLineEdit* edit)
+{
+    auto* menu = new QMenu(edit);
+    menu->setObjectName("WMRInsertMenu");
+    for (const auto& [label, inserted] : textInserts) {
+        const QString text = QString::fromUtf8(inserted);
+        // The sign comes last, after a line, where the photo's details end.
+        if (!text.startsWith('{'))
+            menu->addSeparator();
+        // After a tab the inserted text lines up on the right, where shortcuts go.
+        QAction* action =
+            menu->addAction(QCoreApplication::translate("WMRNode", label) + '\t' + text);
+        QObject::connect(action, &QAction::triggered, edit, [edit, text] {
+            edit->insert(text);
+            edit->setFocus();
+        });
+    }
+    // The field asks for no more width than before: the row has none to spare where captions
+    // are long, and the button then takes from the text's room instead.
+    const int leastWidth = edit->minimumSizeHint().width();
+    QIcon icon(":/buttons/macros.png");
+    icon.addFile(":/buttons/macros-disabled.png", QSize(), QIcon::Disabled);
+    QAction* opener = edit->addAction(icon, QLineEdit::TrailingPosition);
+    edit->setMinimumWidth(leastWidth);
+    opener->setToolTip(WMRNode::tr("Insert a detail of each photo"));
+    opener->setMenu(menu);
+    QObject::connect(opener, &QAction::triggered, edit,
+                     [edit, menu] { menu->popup(edit->mapToGlobal(edit->rect().bottomLeft())); });
 }
 
 QSpinBox* newOffsetBox(const Param<WMRValues>& key, const QString& toolTip, QWidget* parent)
@@ -140,6 +189,7 @@ WMRNode::WMRNode(QWidget* parent)
     fontCombo->setMinimumContentsLength(fontComboLetters);
     logoLine->setReadOnly(true);
     backgroundEnabledBox->setToolTip(tr("Draw the background behind the text"));
+    addInsertMenu(textEdit);
 
     // Three columns of form rows side by side, so that all rows fit the low, wide options area:
     // what is drawn, how strongly, and where and how it is laid on. Captions go above the fields
@@ -205,6 +255,11 @@ bool WMRNode::openLogoFile(const QString& fileName)
     logoLine->setText(QFileInfo(fileName).fileName());
     emit parametersChanged();
     return true;
+}
+
+WMRNode::Values WMRNode::runValues() const
+{
+    return WMROperation::forPhoto(currentValues(), CommonData::instance()->photo);
 }
 
 void WMRNode::slotModeChanged(int mode)

@@ -34,6 +34,9 @@ public:
     // and the previous logo stays.
     bool openLogoFile(const QString& fileName);
 
+    // The controls' values with the text's macros naming the current photo.
+    Values runValues() const;
+
 public slots:
     // 0 shows the rows of the text watermark, 1 those of the logo.
     void slotModeChanged(int mode);

@@ -230,13 +230,15 @@ BatchEngine::Photo BatchEngine::process(int index)
                     : QFuture<Photo>();
     if (photo.image.isNull())
         return photo;
-    // The operations make new images without the profile; the result is in the source's colours.
-    const QColorSpace colorSpace = photo.image.colorSpace();
-    Photo result = apply(std::move(photo.image), operations, options.pixelBudget);
-    result.image.setColorSpace(colorSpace);
     // Exiv2 keeps to the thread that drives the run: on the reader thread its thread-local
     // state outlived the thread, which leak checkers cannot walk.
-    result.metadata = PhotoMetadata::read(sources.at(index));
+    const PhotoMetadata metadata = PhotoMetadata::read(sources.at(index));
+    // The operations make new images without the profile; the result is in the source's colours.
+    const QColorSpace colorSpace = photo.image.colorSpace();
+    Photo result = apply(std::move(photo.image), operations, options.pixelBudget,
+                         metadata.describe(sources.at(index), index, sources.size()));
+    result.image.setColorSpace(colorSpace);
+    result.metadata = metadata;
     return result;
 }
 
@@ -365,13 +367,13 @@ QString BatchEngine::createRunFolder(const QString& base, const QDateTime& start
 }
 
 BatchEngine::Photo BatchEngine::apply(QImage image, const QVector<PreparedOperation>& operations,
-                                      qint64 pixelBudget)
+                                      qint64 pixelBudget, const PhotoContext& photo)
 {
     for (const PreparedOperation& operation : operations) {
         const QSize next = operation.resultSize(image.size());
         if (qint64(next.width()) * next.height() > pixelBudget)
             return {{}, tooLarge(next)};
-        image = operation.apply(std::move(image));
+        image = operation.apply(std::move(image), photo);
         if (image.isNull())
             return {{}, leftNoImage(operation.name)};
     }

@@ -108,11 +108,11 @@ public:
     // tells sizes but cannot tell this one's is refused undecoded. With toSrgb its pixels are
     // converted from its colour profile to sRGB (ColorProfiles).
     static Photo load(const QString& path, qint64 pixelBudget, bool toSrgb = false);
-    // The operations in order through their headless forms. An image an operation leaves
-    // empty is reported instead of being handed to the next one, and one that would grow past
-    // pixelBudget is refused before it is made.
+    // The operations in order through their headless forms, for the photo described. An image
+    // an operation leaves empty is reported instead of being handed to the next one, and one
+    // that would grow past pixelBudget is refused before it is made.
     static Photo apply(QImage image, const QVector<PreparedOperation>& operations,
-                       qint64 pixelBudget);
+                       qint64 pixelBudget, const PhotoContext& photo = {});
     // The operations with their parameters read once (a logo is decoded once per run);
     // forPreview as the live preview runs them on its reduced working copy.
     static QVector<PreparedOperation> prepare(const BatchOperations& operations,

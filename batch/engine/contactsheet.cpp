@@ -62,7 +62,7 @@ ContactSheet::ContactSheet(int count, const BatchOperations& operations, qint64 
         cellLabels << QString();
 }
 
-ContactSheet::Cell ContactSheet::run(const QString& path) const
+ContactSheet::Cell ContactSheet::run(const QString& path, int index) const
 {
     Cell cell{QFileInfo(path).fileName(), {}, {}, {}};
     BatchEngine::Photo photo = BatchEngine::load(path, pixelBudget);
@@ -74,7 +74,8 @@ ContactSheet::Cell ContactSheet::run(const QString& path) const
         BatchEngine::resultSize(photo.image.size(), fullOperations, pixelBudget, &cell.error);
     if (!cell.error.isEmpty())
         return cell;
-    photo = BatchEngine::apply(PreviewCopy::reduced(photo.image), previewOperations, pixelBudget);
+    photo = BatchEngine::apply(PreviewCopy::reduced(photo.image), previewOperations, pixelBudget,
+                               PhotoMetadata::read(path).describe(path, index, cellLabels.size()));
     cell.result = photo.image;
     cell.error = photo.error;
     return cell;
@@ -132,7 +133,8 @@ void ContactSheet::addAll(const QStringList& paths,
     const int inFlight = std::max(1, QThread::idealThreadCount());
     for (int started = 0, i = 0; i < paths.size(); ++i) {
         for (; started < paths.size() && started < i + inFlight; ++started)
-            running << QtConcurrent::run([this, path = paths.at(started)] { return run(path); });
+            running << QtConcurrent::run(
+                [this, path = paths.at(started), started] { return run(path, started); });
         const Cell cell = running.at(i).result();
         running[i] = {};
         place(i, cell);

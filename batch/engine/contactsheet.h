@@ -34,8 +34,9 @@ public:
     // flow would grow past it, fails as it would in the run.
     ContactSheet(int count, const BatchOperations& operations, qint64 pixelBudget);
 
-    // The photo at path read, reduced as the preview reduces it and run. Safe on any thread.
-    Cell run(const QString& path) const;
+    // The photo at path, the index-th of the sheet, read, reduced as the preview reduces it and
+    // run. Safe on any thread.
+    Cell run(const QString& path, int index = 0) const;
     // Draws the cell at index, in reading order.
     void place(int index, const Cell& cell);
     // Runs and places every photo, one per core at once; done hears of each in order, on this

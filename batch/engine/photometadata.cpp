@@ -1,8 +1,10 @@
 #include "photometadata.h"
 
+#include "commondata.h"
 #include "outputsettings.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <exiv2/exiv2.hpp>
 
@@ -136,6 +138,58 @@ void addAuthor(Exiv2::ExifData& exif, Exiv2::IptcData& iptc, Exiv2::XmpData& xmp
         replace(iptc, "Iptc.Envelope.CharacterSet", "\x1b%G");
 }
 
+// The text of the first of keys the metadata holds, up to a NUL (EXIF pads its texts with them).
+template <typename Key, typename Metadata>
+QString firstText(const Metadata& metadata, std::initializer_list<const char*> keys)
+{
+    for (const char* key : keys) {
+        const auto found = metadata.findKey(Key(key));
+        if (found == metadata.end())
+            continue;
+        // Lists (XMP's creators) give their first item, language alternatives their default.
+        const std::string text = found->count() > 0 ? found->toString(0) : std::string();
+        const QString value = QString::fromStdString(text.substr(0, text.find('\0'))).trimmed();
+        if (!value.isEmpty())
+            return value;
+    }
+    return {};
+}
+
+// "Canon" and "Canon EOS R5" give "Canon EOS R5"; "NIKON CORPORATION" and "NIKON D750" give
+// "NIKON D750": the make is left out where the model starts with its first word.
+QString cameraOf(const QString& make, const QString& model)
+{
+    const QString brand = make.section(' ', 0, 0);
+    if (model.isEmpty() || make.isEmpty() || model.startsWith(brand, Qt::CaseInsensitive))
+        return model.isEmpty() ? make : model;
+    return make + ' ' + model;
+}
+
+// The lens as the photo names it, else as Exiv2 reads it from the maker's own notes.
+QString lensOf(const Exiv2::ExifData& exif, const Exiv2::XmpData& xmp)
+{
+    QString lens = firstText<Exiv2::ExifKey>(exif, {"Exif.Photo.LensModel"});
+    if (lens.isEmpty())
+        lens = firstText<Exiv2::XmpKey>(xmp, {"Xmp.exifEX.LensModel", "Xmp.aux.Lens"});
+    const auto found = Exiv2::lensName(exif);
+    if (lens.isEmpty() && found != exif.end())
+        lens = QString::fromStdString(found->print(&exif)).trimmed();
+    return lens;
+}
+
+QDateTime takenAt(const Exiv2::ExifData& exif, const Exiv2::XmpData& xmp)
+{
+    const auto found = Exiv2::dateTimeOriginal(exif);
+    if (found != exif.end()) {
+        const QDateTime taken = QDateTime::fromString(
+            QString::fromStdString(found->toString()).left(19), "yyyy:MM:dd HH:mm:ss");
+        if (taken.isValid())
+            return taken;
+    }
+    return QDateTime::fromString(firstText<Exiv2::XmpKey>(xmp, {"Xmp.exif.DateTimeOriginal"}),
+                                 Qt::ISODate);
+}
+
 } // namespace
 
 PhotoMetadata PhotoMetadata::read(const QString& path)
@@ -210,4 +264,34 @@ QByteArray PhotoMetadata::embedInto(const QByteArray& encoded, QSize size,
     } catch (const std::exception&) {
         return encoded;
     }
+}
+
+PhotoContext PhotoMetadata::describe(const QString& path, int index, int count) const
+{
+    const QFileInfo file(path);
+    PhotoContext photo;
+    photo.number = index + 1;
+    photo.count = count;
+    photo.name = CommonData::displayNameOf(path);
+    photo.file = file.fileName();
+    if (data) {
+        const Data& all = *data;
+        photo.date = takenAt(all.exif, all.xmp);
+        photo.camera = cameraOf(firstText<Exiv2::ExifKey>(all.exif, {"Exif.Image.Make"}),
+                                firstText<Exiv2::ExifKey>(all.exif, {"Exif.Image.Model"}));
+        photo.lens = lensOf(all.exif, all.xmp);
+        photo.artist = firstText<Exiv2::ExifKey>(all.exif, {"Exif.Image.Artist"});
+        if (photo.artist.isEmpty())
+            photo.artist = firstText<Exiv2::XmpKey>(all.xmp, {"Xmp.dc.creator"});
+        if (photo.artist.isEmpty())
+            photo.artist = firstText<Exiv2::IptcKey>(all.iptc, {"Iptc.Application2.Byline"});
+        photo.copyright = firstText<Exiv2::ExifKey>(all.exif, {"Exif.Image.Copyright"});
+        if (photo.copyright.isEmpty())
+            photo.copyright = firstText<Exiv2::XmpKey>(all.xmp, {"Xmp.dc.rights"});
+        if (photo.copyright.isEmpty())
+            photo.copyright = firstText<Exiv2::IptcKey>(all.iptc, {"Iptc.Application2.Copyright"});
+    }
+    if (!photo.date.isValid())
+        photo.date = file.lastModified();
+    return photo;
 }

@@ -1,6 +1,8 @@
 // A photo's EXIF, IPTC and XMP, carried from the source into the written result.
 #pragma once
 
+#include "textmacros.h"
+
 #include <QByteArray>
 #include <QSize>
 #include <QString>
@@ -25,6 +27,10 @@ public:
     // there is nothing to carry or the format or the data cannot take it.
     QByteArray embedInto(const QByteArray& encoded, QSize size, const OutputSettings& settings,
                          const QByteArray& iccProfile = {}) const;
+
+    // What a watermark's text may name of the photo at path that this metadata was read from;
+    // index is its place among count photos (-1 and 0: no list, number and count stay 0).
+    PhotoContext describe(const QString& path, int index = -1, int count = 0) const;
 
 private:
     struct Data;

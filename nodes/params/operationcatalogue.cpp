@@ -49,6 +49,17 @@ void markPreview(RSZValues& values, bool forPreview)
     values.previewMode = forPreview;
 }
 
+// The operations that draw something of the photo; every other is the same for all.
+template <typename Values> const Values& forPhoto(const Values& values, const PhotoContext&)
+{
+    return values;
+}
+
+WMRValues forPhoto(const WMRValues& values, const PhotoContext& photo)
+{
+    return WMROperation::forPhoto(values, photo);
+}
+
 // The values start at zero and are taken from the text once; the operation's one mapping then
 // runs on the calling thread, image after image.
 template <typename Op>
@@ -58,11 +69,11 @@ PreparedOperation prepareHeadless(const QString& name, const QString& parameters
     typename Op::Values values = Op::table().parse(parametersText);
     markPreview(values, forPreview);
     return {name,
-            [values](QImage image) {
+            [values](QImage image, const PhotoContext& photo) {
                 // The kernels read 32-bit words; a photo of another depth is widened first.
                 if (image.depth() != 32)
                     image = image.convertToFormat(QImage::Format_ARGB32);
-                return Op::run(image, values);
+                return Op::run(image, forPhoto(values, photo));
             },
             [values](const QSize& size) { return sizeAfter(values, size); }};
 }
@@ -115,13 +126,13 @@ PreparedOperation prepareOperation(const QString& name, const QString& parameter
     const Entry* found = findEntry(name);
     if (found)
         return found->prepare(name, parametersText, forPreview);
-    return {name, [](const QImage& image) { return image; },
+    return {name, [](const QImage& image, const PhotoContext&) { return image; },
             [](const QSize& size) { return size; }};
 }
 
 QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText)
 {
-    return prepareOperation(name, parametersText).apply(image);
+    return prepareOperation(name, parametersText).apply(image, PhotoContext());
 }
 
 bool readOperation(const QString& name, const QDomElement& parameters, bool* active,

@@ -2,6 +2,8 @@
 // parameters become the parameter text a node of the window would write after reading them.
 #pragma once
 
+#include "textmacros.h"
+
 #include <QDomDocument>
 #include <QDomElement>
 #include <QImage>
@@ -14,22 +16,23 @@
 QStringList operationNames();
 
 // An operation with its parameter text read once, for a run over many images: apply gives the
-// image through the operation's headless form; resultSize says, without touching pixels, how
-// large the full-size result is, so that a run can refuse a result too large before it is made
-// and a look at the batch can say what the run will write. Both are safe on any thread; an
-// unknown name leaves images and sizes as they are. forPreview runs the operation as the live
-// preview runs it on its reduced working copy (Resize then caps its pixel sizes and leaves
-// "Maximum pixels" to the full-size run).
+// image through the operation's headless form, for the photo described (what a watermark's
+// text macros name); resultSize says, without touching pixels, how large the full-size result
+// is, so that a run can refuse a result too large before it is made and a look at the batch can
+// say what the run will write. Both are safe on any thread; an unknown name leaves images and
+// sizes as they are. forPreview runs the operation as the live preview runs it on its reduced
+// working copy (Resize then caps its pixel sizes and leaves "Maximum pixels" to the full-size run).
 struct PreparedOperation
 {
     QString name;
-    std::function<QImage(QImage)> apply;
+    std::function<QImage(QImage, const PhotoContext&)> apply;
     std::function<QSize(const QSize&)> resultSize;
 };
 PreparedOperation prepareOperation(const QString& name, const QString& parametersText,
                                    bool forPreview = false);
 
-// The named operation applied by its headless form to image with the stored parameter text.
+// The named operation applied by its headless form to image with the stored parameter text, for
+// no photo in particular (text macros name nothing).
 QImage applyOperation(const QString& name, const QImage& image, const QString& parametersText);
 
 // A node of the named operation as the window makes it, after reading parameters: whether it

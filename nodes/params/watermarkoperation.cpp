@@ -81,6 +81,12 @@ QImage WMROperation::run(QImage image, const WMRValues& values)
     return OrkGraphX::drawWatermark(image, values);
 }
 
+WMRValues WMROperation::forPhoto(Values values, const PhotoContext& photo)
+{
+    values.Text = TextMacros::expand(values.Text, photo);
+    return values;
+}
+
 namespace WatermarkLogo {
 
 QImage builtIn()

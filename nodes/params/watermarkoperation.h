@@ -3,6 +3,7 @@
 #pragma once
 
 #include "operations.h"
+#include "textmacros.h"
 #include "wmrparams.h"
 
 // The kernel's record plus the logo's file name, which is stored but not drawn.
@@ -19,6 +20,8 @@ struct WMROperation
     static constexpr const char* Name = QT_TRANSLATE_NOOP("NodeName", "Watermark");
     static const ParamTable<Values>& table();
     static QImage run(QImage image, const Values& values);
+    // The values for one photo: the text's macros replaced by what they name of it.
+    static Values forPhoto(Values values, const PhotoContext& photo);
 };
 
 namespace WatermarkLogo {

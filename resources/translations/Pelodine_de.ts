@@ -269,12 +269,12 @@
         <translation>kein Foto an Position %1</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+31"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-164"/>
+        <location line="-166"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
@@ -305,17 +305,17 @@
     </message>
     <message>
         <location line="+12"/>
-        <location line="+56"/>
+        <location line="+58"/>
         <source>cannot write: %1 is a link</source>
         <translation>Schreiben nicht möglich: %1 ist eine Verknüpfung</translation>
     </message>
     <message>
-        <location line="-55"/>
+        <location line="-57"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="+59"/>
         <source>cannot write: %1 is not a regular file</source>
         <translation>Schreiben nicht möglich: %1 ist keine normale Datei</translation>
     </message>
@@ -375,7 +375,7 @@
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="-236"/>
+        <location line="-238"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -437,17 +437,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+93"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+95"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Fotos hierher ziehen&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="-73"/>
+        <location line="-74"/>
         <source>Click to open the photos</source>
         <translation>Klicken, um Fotos zu öffnen</translation>
     </message>
     <message>
-        <location line="+78"/>
+        <location line="+79"/>
         <source>Open the photos</source>
         <translation>Fotos öffnen</translation>
     </message>
@@ -822,7 +822,7 @@ Overwrite?</source>
         <translation>Vignettierung</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.h" line="+19"/>
+        <location filename="../../nodes/params/watermarkoperation.h" line="+20"/>
         <source>Watermark</source>
         <translation>Wasserzeichen</translation>
     </message>
@@ -1146,7 +1146,7 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+93"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+142"/>
         <source>Fewer options</source>
         <translation>Weniger Optionen</translation>
     </message>
@@ -1191,7 +1191,72 @@ Overwrite?</source>
         <translation>Y: </translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+1"/>
+        <location filename="../../nodes/wmrnode.cpp" line="-80"/>
+        <source>Photo name</source>
+        <translation>Fotoname</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date taken</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date and time taken</source>
+        <translation>Aufnahmedatum und -zeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Year taken</source>
+        <translation>Aufnahmejahr</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Artist</source>
+        <translation>Urheber</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Photo number</source>
+        <translation>Nummer des Fotos</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Number of photos</source>
+        <translation>Anzahl der Fotos</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright sign</source>
+        <translation>Copyright-Zeichen</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Insert a detail of each photo</source>
+        <translation>Eine Angabe zu jedem Foto einfügen</translation>
+    </message>
+    <message>
+        <location line="+42"/>
         <source>Vertical offset in percent of the height</source>
         <translation>Senkrechter Versatz in Prozent der Höhe</translation>
     </message>
@@ -1261,7 +1326,7 @@ Overwrite?</source>
         <translation>Strecken:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+58"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+59"/>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
@@ -1271,7 +1336,7 @@ Overwrite?</source>
         <translation>Die Bilddatei kann nicht geöffnet werden:</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+24"/>
         <source>Open the watermark file</source>
         <translation>Wasserzeichen-Datei öffnen</translation>
     </message>

@@ -269,12 +269,12 @@
         <translation>нет фото в позиции %1</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+31"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-164"/>
+        <location line="-166"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
@@ -305,17 +305,17 @@
     </message>
     <message>
         <location line="+12"/>
-        <location line="+56"/>
+        <location line="+58"/>
         <source>cannot write: %1 is a link</source>
         <translation>запись невозможна: %1 — ссылка</translation>
     </message>
     <message>
-        <location line="-55"/>
+        <location line="-57"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="+59"/>
         <source>cannot write: %1 is not a regular file</source>
         <translation>запись невозможна: %1 — не обычный файл</translation>
     </message>
@@ -375,7 +375,7 @@
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="-236"/>
+        <location line="-238"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -437,17 +437,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+93"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+95"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Перетащите фото сюда&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="-73"/>
+        <location line="-74"/>
         <source>Click to open the photos</source>
         <translation>Нажмите, чтобы открыть фото</translation>
     </message>
     <message>
-        <location line="+78"/>
+        <location line="+79"/>
         <source>Open the photos</source>
         <translation>Открыть фото</translation>
     </message>
@@ -822,7 +822,7 @@ Overwrite?</source>
         <translation>Виньетирование</translation>
     </message>
     <message>
-        <location filename="../../nodes/params/watermarkoperation.h" line="+19"/>
+        <location filename="../../nodes/params/watermarkoperation.h" line="+20"/>
         <source>Watermark</source>
         <translation>Водяной знак</translation>
     </message>
@@ -1146,7 +1146,7 @@ Overwrite?</source>
 <context>
     <name>WMRNode</name>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+93"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+142"/>
         <source>Fewer options</source>
         <translation>Меньше параметров</translation>
     </message>
@@ -1191,7 +1191,72 @@ Overwrite?</source>
         <translation>Y: </translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+1"/>
+        <location filename="../../nodes/wmrnode.cpp" line="-80"/>
+        <source>Photo name</source>
+        <translation>Имя фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>File name</source>
+        <translation>Имя файла</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date taken</source>
+        <translation>Дата съёмки</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date and time taken</source>
+        <translation>Дата и время съёмки</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Year taken</source>
+        <translation>Год съёмки</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Camera</source>
+        <translation>Камера</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Lens</source>
+        <translation>Объектив</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Artist</source>
+        <translation>Автор</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright</source>
+        <translation>Авторское право</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Photo number</source>
+        <translation>Номер фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Number of photos</source>
+        <translation>Число фото</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copyright sign</source>
+        <translation>Знак авторского права</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Insert a detail of each photo</source>
+        <translation>Вставить сведения о каждом фото</translation>
+    </message>
+    <message>
+        <location line="+42"/>
         <source>Vertical offset in percent of the height</source>
         <translation>Смещение по вертикали в процентах от высоты</translation>
     </message>
@@ -1261,7 +1326,7 @@ Overwrite?</source>
         <translation>Растянуть:</translation>
     </message>
     <message>
-        <location filename="../../nodes/wmrnode.cpp" line="+58"/>
+        <location filename="../../nodes/wmrnode.cpp" line="+59"/>
         <source>Warning</source>
         <translation>Предупреждение</translation>
     </message>
@@ -1271,7 +1336,7 @@ Overwrite?</source>
         <translation>Не удаётся открыть файл изображения:</translation>
     </message>
     <message>
-        <location line="+19"/>
+        <location line="+24"/>
         <source>Open the watermark file</source>
         <translation>Открыть файл водяного знака</translation>
     </message>

@@ -104,6 +104,18 @@ QString writeCameraPhoto(const QString& path, uint16_t orientation)
     return path;
 }
 
+// A 40 x 30 JPEG at path carrying the EXIF texts of "key=value|key=value".
+QString writeTaggedPhoto(const QString& path, const QString& tags)
+{
+    TestUtils::writeImage(path, TestUtils::filledImage(40, 30, 0xff4080c0));
+    auto photo = Exiv2::ImageFactory::open(path.toStdString());
+    photo->readMetadata();
+    for (const auto& [key, value] : TestUtils::keyValues(tags))
+        photo->exifData()[key.toStdString()] = value.toStdString();
+    photo->writeMetadata();
+    return path;
+}
+
 // Every EXIF, IPTC and XMP key of the file with its value as text; none when Exiv2 cannot
 // read the file.
 QMap<QString, QString> metadataOf(const QString& path)
@@ -745,6 +757,81 @@ private slots:
         const QRgb right = photo.image.pixel(61, 24);
         QVERIFY(qRed(left) > 2 * qBlue(left) && qBlue(right) > 2 * qRed(right));
         QCOMPARE(BatchEngine::load(path, 64 * 48 - 1).error, QString("too large: 64 x 48"));
+    }
+
+    void textMacros_data()
+    {
+        addColumns<QString, QString>("text", "expanded");
+        addRow("no braces", "Watermark \u00a9 2024", "Watermark \u00a9 2024");
+        addRow("dates", "{date}|{year}|{date:d.M.yy h:mm}|{date:}",
+               "2024-05-01|2024|1.5.24 9:07|2024-05-01");
+        addRow("position", "{n} of {count}", "3 of 12");
+        addRow("doubled braces", "{{name}} }}{{ {{{n}}}", "{name} }{ {3}");
+        addRow("not macros", "{Name} {unknown} { n} {n {} } {", "{Name} {unknown} { n} {n {} } {");
+    }
+
+    // The dates and positions of a photo described by hand (the other macros below).
+    void textMacros()
+    {
+        auto [text, expanded] = fetch<QString, QString>("text", "expanded");
+        const PhotoContext photo{
+            "", "", QDateTime(QDate(2024, 5, 1), QTime(9, 7, 30)), "", "", "", "", 3, 12};
+        QCOMPARE(TextMacros::expand(text, photo), expanded);
+    }
+
+    // What a photo says of itself: its EXIF, else nothing but its file and the file's time.
+    void photoDetails()
+    {
+        const QString all = "{name}|{file}|{date:yyyy-MM-dd HH:mm:ss}|{camera}|{lens}|{artist}|"
+                            "{copyright}";
+        const auto details = [&all](const QString& path) {
+            return TextMacros::expand(all, PhotoMetadata::read(path).describe(path));
+        };
+        const QString canon = writeTaggedPhoto(
+            in + "/IMG_1.jpg", "Exif.Image.Make=Canon|Exif.Image.Model=Canon EOS R5|"
+                               "Exif.Photo.LensModel=RF50mm F1.8|Exif.Image.Artist=Ann|"
+                               "Exif.Image.Copyright=(c) Ann|"
+                               "Exif.Photo.DateTimeOriginal=2024:05:01 10:20:30");
+        QCOMPARE(
+            details(canon),
+            QString("IMG_1|IMG_1.jpg|2024-05-01 10:20:30|Canon EOS R5|RF50mm F1.8|Ann|(c) Ann"));
+        // The make said once, also where the model repeats only its first word; nothing else.
+        QCOMPARE(details(writeTaggedPhoto(in + "/n.jpg", "Exif.Image.Make=NIKON CORPORATION|"
+                                                         "Exif.Image.Model=NIKON D750"))
+                     .section('|', 3),
+                 QString("NIKON D750|||"));
+        QCOMPARE(details(writeTaggedPhoto(in + "/s.jpg",
+                                          "Exif.Image.Make=SONY|Exif.Image.Model=ILCE-7M3"))
+                     .section('|', 3, 3),
+                 QString("SONY ILCE-7M3"));
+        const QString plain = photo("plain.png");
+        QFile file(plain);
+        QVERIFY(file.open(QIODevice::ReadWrite) &&
+                file.setFileTime(QDateTime(QDate(2021, 3, 4), QTime(5, 6, 7)),
+                                 QFileDevice::FileModificationTime));
+        QCOMPARE(details(plain), QString("plain|plain.png|2021-03-04 05:06:07||||"));
+    }
+
+    // A batch draws each photo's own text: what the same watermark draws with the text
+    // written out by hand.
+    void macrosPerPhoto()
+    {
+        const QString keys = "<Size>80</Size><Position>Middle</Position><Font>DejaVu Sans</Font>"
+                             "<Transparency>0</Transparency>";
+        const auto watermark = [&keys](const QString& text) {
+            return "<Parameters><Active>yes</Active><Text>" + text + "</Text>" + keys +
+                   "</Parameters>";
+        };
+        const QStringList sources = {photo("a.png"), photo("b.png"), photo("c.png")};
+        BatchEngine engine(sources, {{"Watermark", watermark("{n}/{count} {file}")}}, {}, out, {});
+        QVector<QImage> drawn;
+        for (const char* text : {"1/3 a.png", "2/3 b.png", "3/3 c.png"}) {
+            drawn << engine.process(drawn.size()).image;
+            QCOMPARE_IMAGES(drawn.last(),
+                            applyOperation("Watermark", TestUtils::filledImage(40, 30, 0xff203040),
+                                           watermark(text)));
+        }
+        QVERIFY(drawn.at(0) != drawn.at(1) && drawn.at(1) != drawn.at(2));
     }
 
 private:

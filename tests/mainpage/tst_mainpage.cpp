@@ -415,6 +415,10 @@ void TestMainPage::editingTheList()
     QCOMPARE(area()->photos(), photos(expected));
     QCOMPARE(area()->currentIndex(), index);
     QCOMPARE(CommonData::instance()->photoCount, expected.size());
+    // What the watermark's macros name follows the current photo.
+    const PhotoContext& named = CommonData::instance()->photo;
+    QCOMPARE(QString("%1 %2/%3").arg(named.file).arg(named.number).arg(named.count),
+             QString("%1 %2/%3").arg(expected.value(index)).arg(index + 1).arg(expected.size()));
     QCOMPARE(icons->model()->rowCount(), expected.size());
     QCOMPARE(icons->currentIndex().row(), expected.isEmpty() ? -1 : index);
     // The current photo is loaded and named; without photos the page is as it was at first.

@@ -29,6 +29,7 @@
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -39,6 +40,7 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QTranslator>
 #include <QtConcurrent/QtConcurrentRun>
 
@@ -384,8 +386,12 @@ private slots:
         }
         for (QAbstractButton* button : node->findChildren<QAbstractButton*>()) {
             auto* colorButton = qobject_cast<OrkWidgets::ColorButton*>(button);
+            auto* menuButton = qobject_cast<QToolButton*>(button);
+            const QAction* opener = menuButton ? menuButton->defaultAction() : nullptr;
             // Browsing ends in openLogoFile, which has a test of its own.
-            if (colorButton)
+            if (opener && opener->menu())
+                check(button, [&] { opener->menu()->actions().constFirst()->trigger(); });
+            else if (colorButton)
                 check(button, [&] { colorButton->setColor(QColor("#123456")); });
             else if (button->objectName() != "WMRBrowseButton")
                 check(button, [&] { button->click(); });
@@ -595,6 +601,34 @@ private slots:
         const QImage bmp = TestUtils::halvesPicture(8, 2, 0xff010203, 0xff040506);
         load(&node, "ImageData=" + dataUri(bmp, "BMP"));
         QVERIFY(node.parametersText().contains(dataUri(bmp, "PNG")));
+    }
+
+    // The preview draws the current photo's details; the node stores the macros.
+    void textMacrosInThePreview()
+    {
+        PhotoContext& current = CommonData::instance()->photo;
+        const auto restore = qScopeGuard([&current, before = current] { current = before; });
+        current.number = 2;
+        current.count = 5;
+        WMRNode node;
+        load(&node, "Text={n} of {count}|Size=80|Transparency=0");
+        const QString stored = node.parametersText();
+        QVERIFY(stored.contains("<Text>{n} of {count}</Text>"));
+        QImage image = photo();
+        node.process(image);
+        QCOMPARE_IMAGES(image, applyOperation("Watermark", photo(),
+                                              QString(stored).replace("{n} of {count}", "2 of 5")));
+        QCOMPARE(node.parametersText(), stored);
+
+        // The menu puts what it names where the cursor is.
+        const auto* menu = node.findChild<QMenu*>("WMRInsertMenu");
+        auto* edit = qobject_cast<QLineEdit*>(menu->parent());
+        edit->setText("AB");
+        edit->setCursorPosition(1);
+        for (QAction* action : menu->actions())
+            if (action->text().endsWith("{year}") || action->text().endsWith("\u00a9"))
+                action->trigger();
+        QCOMPARE(edit->text(), QString("A{year}\u00a9B"));
     }
 
     // A new node stores no logo data; the headless form then draws the built-in logo.

@@ -25,6 +25,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QLinearGradient>
 #include <QMenu>
 #include <QMenuBar>
@@ -33,6 +34,7 @@
 #include <QPainterPath>
 #include <QPushButton>
 #include <QRadialGradient>
+#include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
@@ -175,6 +177,18 @@ QPixmap overWindow(const QPixmap& window, const QPixmap& dialog)
     painter.fillRect(target.translated(5, 5), QColor(0, 0, 0, 110));
     painter.drawPixmap(target, dialog);
     return picture;
+}
+
+// The page with the current watermark's text naming each photo and its insert menu open below
+// the text, as its button opens it.
+QPixmap watermarkMacros(MainPage& page)
+{
+    QWidget* node = page.nodesOptionsPanel()->findChild<QStackedWidget*>()->currentWidget();
+    auto* menu = node->findChild<QMenu*>("WMRInsertMenu");
+    auto* edit = qobject_cast<QLineEdit*>(menu->parent());
+    edit->setText("{file} {n}/{count}");
+    settle();
+    return withMenu(&page, menu, edit->mapToGlobal(edit->rect().bottomLeft()));
 }
 
 // The page with the menu of "+" open below it, as its arrow opens it.
@@ -487,6 +501,7 @@ bool writeDocs(const QString& folder, const QList<QUrl>& photos)
             batch->hide();
             shots << qMakePair(QString("results-grid"), resultsGrid(sample.page));
             shots << qMakePair(QString("summary-bar"), summaryBar(sample.page));
+            shots << qMakePair(QString("watermark-macros"), watermarkMacros(sample.page));
         }
         {
             MainPage empty;
