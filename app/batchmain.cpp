@@ -35,6 +35,8 @@ struct Job
     OutputSettings settings;
     QString destination;
     QStringList photos;
+    // The folder given that a photo was found in, by the photo's path.
+    QHash<QString, QString> inputFolders;
     QString flowPath;
     // What the flow held that could not be taken.
     QStringList dropped;
@@ -154,6 +156,20 @@ void addOptions(QCommandLineParser& parser)
          QCoreApplication::translate("main", "Write TEXT as the copyright into every result's "
                                              "EXIF, IPTC and XMP."),
          "TEXT"},
+        {"srgb",
+         QCoreApplication::translate("main", "Convert each photo from its colour profile to "
+                                             "sRGB before the flow and embed sRGB, as the web "
+                                             "expects; a photo without a profile is taken as "
+                                             "sRGB. Without it the photo's own profile is "
+                                             "embedded.")},
+        {"keep-folders",
+         QCoreApplication::translate("main", "Write a photo found in a subfolder of a FOLDER "
+                                             "given into the same subfolder below the output "
+                                             "folder. The default, unless "
+                                             "--use-window-settings says otherwise.")},
+        {"no-keep-folders",
+         QCoreApplication::translate("main", "Write every photo straight into the output "
+                                             "folder.")},
         {"lenient",
          QCoreApplication::translate("main", "Run a flow that holds something that cannot be "
                                              "taken (an unknown operation, a logo that does not "
@@ -264,6 +280,16 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
             return QCoreApplication::translate("main", "the extension must be format or short");
         settings.shortExtensions = form == 1;
     }
+    if (parser.isSet("srgb"))
+        settings.convertToSrgb = true;
+    if (parser.isSet("keep-folders") && parser.isSet("no-keep-folders"))
+        return QCoreApplication::translate("main", "--keep-folders and --no-keep-folders "
+                                                   "exclude each other");
+    // A folder's tree is kept unless the window's setting or --no-keep-folders says otherwise.
+    if (parser.isSet("keep-folders") || !parser.isSet("use-window-settings"))
+        settings.keepFolders = true;
+    if (parser.isSet("no-keep-folders"))
+        settings.keepFolders = false;
     if (parser.isSet("artist"))
         settings.artist = parser.value("artist");
     if (parser.isSet("copyright"))
@@ -288,7 +314,7 @@ QString findPhotos(const QStringList& arguments, Job& job)
     QList<QUrl> urls;
     for (const QString& argument : arguments)
         urls << QUrl::fromLocalFile(QFileInfo(argument).absoluteFilePath());
-    const QList<QUrl> photos = PhotoFiles::expandFolders(urls);
+    const QList<QUrl> photos = PhotoFiles::expandFolders(urls, &job.inputFolders);
     for (const QUrl& photo : photos)
         job.photos << photo.toLocalFile();
     if (job.photos.isEmpty())
@@ -299,8 +325,10 @@ QString findPhotos(const QStringList& arguments, Job& job)
 QString makeDestination(const QCommandLineParser& parser, Job& job)
 {
     // A time-stamped folder is this run's alone, not shared with a run of the same second.
-    if (parser.isSet("output")) {
-        job.destination = QDir(parser.value("output")).absolutePath() + "/";
+    // The window's folder to save into, when its settings are used, stands for --output.
+    const QString chosen = parser.isSet("output") ? parser.value("output") : job.settings.saveInto;
+    if (!chosen.isEmpty()) {
+        job.destination = QDir(chosen).absolutePath() + "/";
         if (QDir().mkpath(job.destination))
             return {};
     } else {
@@ -310,7 +338,7 @@ QString makeDestination(const QCommandLineParser& parser, Job& job)
             return {};
     }
     return QCoreApplication::translate("main", "cannot create the folder %1")
-        .arg(parser.isSet("output") ? job.destination : OrkTools::AppData::outputBaseFolder());
+        .arg(!chosen.isEmpty() ? job.destination : OrkTools::AppData::outputBaseFolder());
 }
 
 // The mistakes in the command line's own words, which --help sets right.
@@ -359,6 +387,7 @@ int run(const Job& job)
         return someFailed;
     BatchEngine engine(job.photos, job.operations, job.settings, job.destination,
                        {true, job.overwrite, job.settings.pixelBudget()});
+    engine.setInputFolders(job.inputFolders);
     QStringList failures;
     QStringList notes;
     const int count = engine.count();

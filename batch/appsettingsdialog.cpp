@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QFileDialog>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -73,6 +74,26 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     metadataForm->addRow(metadataCombo);
     metadataForm->addRow(tr("Artist:"), artistEdit);
     metadataForm->addRow(tr("Copyright:"), copyrightEdit);
+
+    saveIntoEdit = new QLineEdit;
+    saveIntoEdit->setPlaceholderText(tr("A new folder for each run"));
+    // Wide enough to show what an empty field means.
+    saveIntoEdit->setMinimumWidth(
+        saveIntoEdit->fontMetrics().horizontalAdvance(saveIntoEdit->placeholderText()) + 16);
+    auto* browseButton = new QPushButton(tr("Browse..."));
+    auto* saveIntoRow = new QHBoxLayout;
+    saveIntoRow->addWidget(saveIntoEdit);
+    saveIntoRow->addWidget(browseButton);
+    keepFoldersBox = new QCheckBox(tr("Keep folder structure"));
+    keepFoldersBox->setToolTip(tr("A photo from a subfolder of a folder you added goes into the "
+                                  "same subfolder of the results"));
+    convertToSrgbBox = new QCheckBox(tr("Convert to sRGB"));
+    convertToSrgbBox->setToolTip(tr("Colours converted from the photo's profile to sRGB, as the "
+                                    "web expects"));
+    auto* foldersForm = new QFormLayout;
+    foldersForm->addRow(tr("Save into:"), saveIntoRow);
+    foldersForm->addRow(keepFoldersBox);
+    foldersForm->addRow(convertToSrgbBox);
     auto* okButton = new QPushButton(tr("Ok"));
     okButton->setObjectName("PushButton");
     auto* cancelButton = new QPushButton(tr("Cancel"));
@@ -88,10 +109,17 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     layout->addWidget(renameBox);
     layout->addLayout(limitsForm);
     layout->addWidget(metadataBox);
+    layout->addLayout(foldersForm);
     layout->addLayout(buttons);
 
     connect(okButton, &QPushButton::clicked, this, &AppSettingsDialog::slotSaveSettings);
     connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(browseButton, &QPushButton::clicked, this, [this] {
+        const QString folder =
+            QFileDialog::getExistingDirectory(this, tr("Save into"), saveIntoEdit->text());
+        if (!folder.isEmpty())
+            saveIntoEdit->setText(folder);
+    });
     connect(formatCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &AppSettingsDialog::slotFormatChanged);
     slotLoadSettings();
@@ -113,6 +141,9 @@ void AppSettingsDialog::slotSaveSettings()
     settings.metadata = metadataCombo->currentIndex();
     settings.artist = artistEdit->text();
     settings.copyright = copyrightEdit->text();
+    settings.saveInto = saveIntoEdit->text().trimmed();
+    settings.keepFolders = keepFoldersBox->isChecked();
+    settings.convertToSrgb = convertToSrgbBox->isChecked();
     settings.save();
     accept();
 }
@@ -133,6 +164,9 @@ void AppSettingsDialog::slotLoadSettings()
     metadataCombo->setCurrentIndex(settings.metadata);
     artistEdit->setText(settings.artist);
     copyrightEdit->setText(settings.copyright);
+    saveIntoEdit->setText(settings.saveInto);
+    keepFoldersBox->setChecked(settings.keepFolders);
+    convertToSrgbBox->setChecked(settings.convertToSrgb);
     slotFormatChanged();
 }
 

@@ -1,5 +1,5 @@
 // The output settings: format and quality, renaming and numbering, opening the folder,
-// the largest photo and the metadata the results keep.
+// the largest photo, the metadata the results keep, the folder they go into and their colours.
 #pragma once
 
 #include <QDialog>
@@ -46,4 +46,7 @@ private:
     QComboBox* metadataCombo = nullptr;
     QLineEdit* artistEdit = nullptr;
     QLineEdit* copyrightEdit = nullptr;
+    QLineEdit* saveIntoEdit = nullptr;
+    QCheckBox* keepFoldersBox = nullptr;
+    QCheckBox* convertToSrgbBox = nullptr;
 };

@@ -73,14 +73,18 @@ BatchDialog::~BatchDialog()
     delete worker;
 }
 
-void BatchDialog::startBatch(const BatchOperations& operations, const QList<QUrl>& files)
+void BatchDialog::startBatch(const BatchOperations& operations, const QList<QUrl>& files,
+                             const QHash<QString, QString>& inputFolders)
 {
     thread->wait();
     const OutputSettings settings = OutputSettings::load();
-    destination = OrkTools::AppData::outputBaseFolder() +
-                  QDateTime::currentDateTime().toString("yyyy-MM-dd_hh-mm-ss") + "/";
+    // A folder of the user's choosing takes the results itself, without a time-stamped one.
+    destination = settings.saveInto.isEmpty()
+                      ? OrkTools::AppData::outputBaseFolder() +
+                            QDateTime::currentDateTime().toString("yyyy-MM-dd_hh-mm-ss") + "/"
+                      : QDir(settings.saveInto).absolutePath() + "/";
     QDir().mkpath(destination);
-    worker->prepare(settings, destination, files, operations);
+    worker->prepare(settings, destination, files, operations, inputFolders);
     thread->start(QThread::InheritPriority);
 }
 

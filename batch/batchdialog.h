@@ -4,6 +4,7 @@
 #include "batchoperations.h"
 
 #include <QDialog>
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QUrl>
@@ -23,10 +24,12 @@ public:
     // Stops a run that is still going and waits for its thread.
     ~BatchDialog() override;
 
-    // Reads the output settings, creates the time-stamped destination under the output base
-    // folder, hands everything to the worker and starts the thread. The caller then shows
-    // the dialog (exec()).
-    void startBatch(const BatchOperations& operations, const QList<QUrl>& files);
+    // Reads the output settings, creates the destination (the folder chosen to save into, or
+    // else a time-stamped one under the output base folder), hands everything to the worker
+    // and starts the thread. The caller then shows the dialog (exec()).
+    // inputFolders: the folder given as input that a photo was found in, by the photo's path.
+    void startBatch(const BatchOperations& operations, const QList<QUrl>& files,
+                    const QHash<QString, QString>& inputFolders = {});
 
     // The folder of the current run, ending in "/".
     QString destinationFolder() const { return destination; }

@@ -17,11 +17,13 @@ BatchWorker::BatchWorker(QObject* parent)
 }
 
 void BatchWorker::prepare(const OutputSettings& outputSettings, const QString& destinationFolder,
-                          const QList<QUrl>& photos, const BatchOperations& flowOperations)
+                          const QList<QUrl>& photos, const BatchOperations& flowOperations,
+                          const QHash<QString, QString>& inputFolders)
 {
     settings = outputSettings;
     destination = destinationFolder;
     files = photos;
+    folders = inputFolders;
     operations = flowOperations;
 }
 
@@ -32,9 +34,12 @@ void BatchWorker::slotDoWork()
     QStringList paths;
     for (const QUrl& file : qAsConst(files))
         paths << file.toLocalFile();
-    // The window's batch replaces same-named results, as it always has.
+    // The window's batch replaces same-named results, as it always has; in a folder of the
+    // user's choosing what it finds there stays, and the result takes a free name beside it.
+    const bool ownFolder = settings.saveInto.isEmpty();
     BatchEngine engine(paths, operations, settings, destination,
-                       {false, true, settings.pixelBudget()});
+                       {false, ownFolder, settings.pixelBudget(), !ownFolder});
+    engine.setInputFolders(folders);
     engine.setCounters(oddCounter, evenCounter);
     const int count = paths.size();
     for (int i = 0; i < count; ++i) {

@@ -5,6 +5,7 @@
 #include "batchoperations.h"
 #include "outputsettings.h"
 
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QObject>
@@ -23,8 +24,10 @@ public:
     // The settings, destination (ending in "/"), photos and operations of the next run.
     // Called before the thread starts; the run only reads them. The odd and even counters
     // are left alone, so a second run continues their numbering.
+    // inputFolders: the folder given as input that a photo was found in, by the photo's path.
     void prepare(const OutputSettings& settings, const QString& destinationFolder,
-                 const QList<QUrl>& photos, const BatchOperations& flowOperations);
+                 const QList<QUrl>& photos, const BatchOperations& flowOperations,
+                 const QHash<QString, QString>& inputFolders = {});
 
     // Written by the interface thread, read between photos.
     void setPaused(bool pause) { paused = pause; }
@@ -48,6 +51,7 @@ private:
     int oddCounter = 1;
     int evenCounter = 2;
     QList<QUrl> files;
+    QHash<QString, QString> folders;
     BatchOperations operations;
     std::atomic<bool> stopRequested{false};
     std::atomic<bool> paused{false};

@@ -1,11 +1,12 @@
 // Where the time of a batch run goes, photo by photo: reading, conversion, each operation,
 // encoding and writing, as medians; then the engine's own run over the same photos. First, what
-// keeping the metadata costs a 12-megapixel JPEG, and what encoding one costs in JPEG, WebP and
-// AVIF.
+// keeping the metadata costs a 12-megapixel JPEG, what encoding one costs in JPEG, WebP and
+// AVIF, and what converting one to sRGB costs.
 //   bench_batch [PHOTO_FOLDER] [FLOW_FILE] [FORMAT] [QUALITY]
 //   (defaults: /tmp/pelodine-corpus/photos, Resize 50 % and a text Watermark, JPEG, 90)
 #include "batchengine.h"
 #include "benchsupport.h"
+#include "colorprofiles.h"
 #include "commondata.h"
 #include "flowfile.h"
 #include "flowoperations.h"
@@ -15,6 +16,7 @@
 #include "photometadata.h"
 
 #include <QBuffer>
+#include <QColorSpace>
 #include <QDir>
 #include <QGuiApplication>
 #include <QImageWriter>
@@ -22,6 +24,7 @@
 #include <QSaveFile>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QThread>
 
 #include <numeric>
 
@@ -134,6 +137,22 @@ void encodeTimes(QTextStream& out)
     out << "\n" << Qt::flush;
 }
 
+// Converting a 12-megapixel Adobe RGB photo to sRGB (Little CMS, rows in bands over the pool),
+// as a median.
+void srgbCost(QTextStream& out)
+{
+    QImage picture = photoLikeImage(4000, 3000, 1);
+    picture.setColorSpace(QColorSpace::AdobeRgb);
+    const QByteArray profile = picture.colorSpace().iccProfile();
+    QVector<double> times;
+    for (int run = 0; run < 7; ++run)
+        times << milliseconds([&] { ColorProfiles::toSrgb(picture, profile); });
+    out << "converting to sRGB, 12-megapixel Adobe RGB photo: "
+        << QString::number(median(times), 'f', 1) << " ms on " << QThread::idealThreadCount()
+        << " threads\n\n"
+        << Qt::flush;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -156,6 +175,7 @@ int main(int argc, char* argv[])
     const BatchOperations operations = batchOperationsFromFlow(flow);
     metadataCost(operations, out);
     encodeTimes(out);
+    srgbCost(out);
 
     QStringList photos;
     const QList<QUrl> found = PhotoFiles::expandFolders({QUrl::fromLocalFile(folder)});

@@ -4,6 +4,7 @@
 
 #include "textmacros.h"
 
+#include <QHash>
 #include <QString>
 
 class ItemsModel;
@@ -18,6 +19,8 @@ public:
     // 1 while the live preview runs on a reduced copy; 0 while the large view wants full size.
     int previewMode = 1;
     QString displayName;
+    // The folder given as input that a photo of the list was found in, by the photo's path.
+    QHash<QString, QString> inputFolders;
     // The current photo as the watermark's text macros see it.
     PhotoContext photo;
 

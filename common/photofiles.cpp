@@ -88,15 +88,19 @@ QSize reducedSize(const QSize& fullSize, int divisor)
         .expandedTo(QSize(1, 1));
 }
 
-QList<QUrl> expandFolders(const QList<QUrl>& urls)
+QList<QUrl> expandFolders(const QList<QUrl>& urls, QHash<QString, QString>* foundIn)
 {
     QList<QUrl> expanded;
     for (const QUrl& url : urls) {
         const QFileInfo info(url.toLocalFile());
-        if (url.isLocalFile() && info.isDir())
-            appendFolder(info.filePath(), expanded);
-        else
+        if (!url.isLocalFile() || !info.isDir()) {
             expanded << url;
+            continue;
+        }
+        const int first = expanded.size();
+        appendFolder(info.filePath(), expanded);
+        for (int i = first; foundIn && i < expanded.size(); ++i)
+            foundIn->insert(expanded.at(i).toLocalFile(), info.filePath());
     }
     return expanded;
 }

@@ -1,6 +1,7 @@
 // Reading photos and turning dropped folders into the photos inside them.
 #pragma once
 
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QSize>
@@ -27,7 +28,8 @@ QSize reducedSize(const QSize& fullSize, int divisor);
 // Each folder among urls replaced, at its place, by the image files inside it and inside its
 // subfolders, in name order, a subfolder's photos at the subfolder's place; files are kept as
 // they are, whatever they hold, so that an unreadable photo still shows up in the list.
-QList<QUrl> expandFolders(const QList<QUrl>& urls);
+// foundIn, when given, gets for each photo found inside a folder (by its local path) that folder.
+QList<QUrl> expandFolders(const QList<QUrl>& urls, QHash<QString, QString>* foundIn = nullptr);
 
 // Whether format (a reader's format name or a file suffix, lower case) is a vector drawing: SVG,
 // which may read local files, or EPS, which is a program. Drawings are never taken as photos.

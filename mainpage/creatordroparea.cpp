@@ -36,16 +36,25 @@ bool CreatorDropArea::canTake(const QMimeData* data)
 
 void CreatorDropArea::setPhotos(const QList<QUrl>& newUrls)
 {
-    const QList<QUrl> expanded = PhotoFiles::expandFolders(newUrls);
-    if (!expanded.isEmpty())
-        takeList(expanded, 0, true);
+    QHash<QString, QString> foundIn;
+    const QList<QUrl> expanded = PhotoFiles::expandFolders(newUrls, &foundIn);
+    if (expanded.isEmpty())
+        return;
+    CommonData::instance()->inputFolders = foundIn;
+    takeList(expanded, 0, true);
 }
 
 void CreatorDropArea::addPhotos(const QList<QUrl>& newUrls)
 {
-    const QList<QUrl> expanded = PhotoFiles::expandFolders(newUrls);
-    if (!expanded.isEmpty())
-        takeList(urls + expanded, index, urls.isEmpty());
+    QHash<QString, QString> foundIn;
+    const QList<QUrl> expanded = PhotoFiles::expandFolders(newUrls, &foundIn);
+    if (expanded.isEmpty())
+        return;
+    QHash<QString, QString>& inputFolders = CommonData::instance()->inputFolders;
+    for (const QUrl& url : expanded)
+        inputFolders.remove(url.toLocalFile());
+    inputFolders.insert(foundIn);
+    takeList(urls + expanded, index, urls.isEmpty());
 }
 
 void CreatorDropArea::slotRemoveCurrent()

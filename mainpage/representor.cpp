@@ -112,7 +112,8 @@ void Representor::slotRunBatchClicked()
     // Without photos a run would only leave an empty folder behind.
     if (photos.isEmpty())
         return;
-    batchDialog->startBatch(batchOperations(optionsPanel->flow()), photos);
+    batchDialog->startBatch(batchOperations(optionsPanel->flow()), photos,
+                            CommonData::instance()->inputFolders);
     // A stopped run that was still finishing its photo has ended now; what it reported is
     // told before this run's count begins.
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);

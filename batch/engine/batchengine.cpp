@@ -1,11 +1,13 @@
 #include "batchengine.h"
 
+#include "colorprofiles.h"
 #include "operationcatalogue.h"
 #include "outputnaming.h"
 #include "photofiles.h"
 #include "threadmessages.h"
 
 #include <QBuffer>
+#include <QColorSpace>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QImageWriter>
@@ -43,11 +45,23 @@ QImage laidOn(const QImage& image, const QColor& background)
         if (std::all_of(row, row + words.width(), [](QRgb pixel) { return qAlpha(pixel) == 255; }))
             continue;
         QImage result(words.size(), QImage::Format_RGB32);
+        result.setColorSpace(image.colorSpace());
         result.fill(background);
         QPainter(&result).drawImage(0, 0, words);
         return result;
     }
     return image;
+}
+
+// Qt's own turn drops the colour space, so the photo is turned here and keeps its profile.
+QImage upright(const QImage& image, QImageIOHandler::Transformations turn)
+{
+    QImage turned = image.mirrored(turn & QImageIOHandler::TransformationMirror,
+                                   turn & QImageIOHandler::TransformationFlip);
+    if (turn & QImageIOHandler::TransformationRotate90)
+        turned = turned.transformed(QTransform().rotate(90));
+    turned.setColorSpace(image.colorSpace());
+    return turned;
 }
 
 QString tooLarge(const QSize& size)
@@ -146,11 +160,58 @@ BatchEngine::Result BatchEngine::step(int index)
     if (!OutputNaming::staysInFolder(name))
         return {
             {}, {}, tr("cannot write: the name \"%1\" would leave the output folder").arg(name)};
-    QString target = destination + name + extension;
-    for (int copy = 2; options.keepEveryResult && writtenPaths.contains(target); ++copy)
-        target = destination + name + QString(" (%1)").arg(copy) + extension;
+    QString error;
+    const QString folder = targetFolder(sources.at(index), error);
+    if (folder.isEmpty())
+        return {{}, {}, error};
+    QString target = folder + name + extension;
+    for (int copy = 2; isTaken(target); ++copy)
+        target = folder + name + QString(" (%1)").arg(copy) + extension;
     const WriteResult written = write(photo.image, target, photo.metadata);
     return {std::move(photo.image), target, written.error, written.note};
+}
+
+void BatchEngine::setInputFolders(const QHash<QString, QString>& folderOfSource)
+{
+    inputFolders = folderOfSource;
+}
+
+QString BatchEngine::targetFolder(const QString& source, QString& error) const
+{
+    const QString root = inputFolders.value(source);
+    if (!settings.keepFolders || root.isEmpty())
+        return destination;
+    const QString relative = QDir(root).relativeFilePath(QFileInfo(source).absolutePath());
+    if (relative == ".")
+        return destination;
+    if (relative == ".." || relative.startsWith("../") || QDir::isAbsolutePath(relative)) {
+        error = tr("cannot write: the photo is not inside %1").arg(root);
+        return {};
+    }
+    QString folder = destination;
+    const QStringList parts = relative.split('/');
+    for (const QString& part : parts) {
+        folder += part;
+        const QByteArray native = QFile::encodeName(folder);
+        // A folder that is there already stays as it is; a link is not gone through.
+        mkdir(native.constData(), 0777);
+        struct stat info = {};
+        if (lstat(native.constData(), &info) != 0 || !S_ISDIR(info.st_mode)) {
+            error = S_ISLNK(info.st_mode) ? tr("cannot write: %1 is a link").arg(folder)
+                                          : tr("cannot create the folder %1").arg(folder);
+            return {};
+        }
+        folder += "/";
+    }
+    return folder;
+}
+
+bool BatchEngine::isTaken(const QString& target) const
+{
+    if (writtenPaths.contains(target))
+        return options.keepEveryResult;
+    const QFileInfo info(target);
+    return options.besideExisting && (info.exists() || info.isSymLink());
 }
 
 BatchEngine::Photo BatchEngine::process(int index)
@@ -161,19 +222,22 @@ BatchEngine::Photo BatchEngine::process(int index)
     if (index == readAheadIndex)
         photo = readAhead.result();
     else
-        photo = load(sources.at(index), options.pixelBudget);
+        photo = load(sources.at(index), options.pixelBudget, settings.convertToSrgb);
     readAheadIndex = index + 1;
     readAhead = readAheadIndex < sources.size()
                     ? QtConcurrent::run(&readerPool, &BatchEngine::load, sources.at(readAheadIndex),
-                                        options.pixelBudget)
+                                        options.pixelBudget, settings.convertToSrgb)
                     : QFuture<Photo>();
     if (photo.image.isNull())
         return photo;
     // Exiv2 keeps to the thread that drives the run: on the reader thread its thread-local
     // state outlived the thread, which leak checkers cannot walk.
     const PhotoMetadata metadata = PhotoMetadata::read(sources.at(index));
+    // The operations make new images without the profile; the result is in the source's colours.
+    const QColorSpace colorSpace = photo.image.colorSpace();
     Photo result = apply(std::move(photo.image), operations, options.pixelBudget,
                          metadata.describe(sources.at(index), index, sources.size()));
+    result.image.setColorSpace(colorSpace);
     result.metadata = metadata;
     return result;
 }
@@ -209,7 +273,8 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
         buffer.open(QIODevice::WriteOnly);
         QImageWriter writer(&buffer, settings.format.toLatin1());
         writer.setQuality(quality);
-        return writer.write(written) ? metadata.embedInto(encoded, image.size(), settings)
+        return writer.write(written) ? metadata.embedInto(encoded, image.size(), settings,
+                                                          image.colorSpace().iccProfile())
                                      : QByteArray();
     };
     // A photo that fits its budget not even at quality 1 is written at 1 and said so.
@@ -240,7 +305,7 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     return {true, {}, note};
 }
 
-BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
+BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget, bool toSrgb)
 {
     const QFileInfo info(path);
     if (!info.exists())
@@ -257,7 +322,6 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
                     : tr("unreadable: %1").arg(file.errorString())};
     }
     QImageReader reader(&file);
-    reader.setAutoTransform(true);
     if (PhotoFiles::isDrawing(reader.format()))
         return {{},
                 tr("unreadable: a drawing (%1), not a photo")
@@ -277,7 +341,11 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
         return {{}, tr("unreadable: not a photo this program can read")};
     if (qint64(image.width()) * image.height() > pixelBudget)
         return {{}, tooLarge(image.size())};
-    return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}};
+    image =
+        upright(std::move(image).convertToFormat(QImage::Format_ARGB32), reader.transformation());
+    if (toSrgb)
+        image = ColorProfiles::toSrgb(image, image.colorSpace().iccProfile());
+    return {std::move(image), {}};
 }
 
 QString BatchEngine::createRunFolder(const QString& base, const QDateTime& start, bool exclusive)

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFuture>
+#include <QHash>
 #include <QImage>
 #include <QSet>
 #include <QString>
@@ -59,6 +60,9 @@ public:
         bool replaceExisting = true;
         // The most pixels a photo may have, checked before it is decoded.
         qint64 pixelBudget = 100'000'000;
+        // A file this run did not write stays, and the photo takes the next free name: " (2)",
+        // " (3)", ... before the extension.
+        bool besideExisting = false;
     };
 
     // sources: local file paths in run order; destination: the folder, ending in "/".
@@ -71,6 +75,11 @@ public:
     BatchEngine& operator=(const BatchEngine&) = delete;
 
     int count() const { return sources.size(); }
+
+    // The folder given as input that a source was found in, by the source's path. With the
+    // settings' keepFolders, such a source is written into the same subfolder below the
+    // destination, which is made as needed; never through a link.
+    void setInputFolders(const QHash<QString, QString>& folderOfSource);
 
     // The numbers the odd and even naming schemes give next; a run continues from them.
     void setCounters(int odd, int even);
@@ -96,8 +105,9 @@ public:
     // file is read; its size is read from its header first and a photo above pixelBudget is refused
     // undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged and
     // not taken, whatever it decoded. Drawings (SVG, EPS) are not photos. A photo whose reader
-    // tells sizes but cannot tell this one's is refused undecoded.
-    static Photo load(const QString& path, qint64 pixelBudget);
+    // tells sizes but cannot tell this one's is refused undecoded. With toSrgb its pixels are
+    // converted from its colour profile to sRGB (ColorProfiles).
+    static Photo load(const QString& path, qint64 pixelBudget, bool toSrgb = false);
     // The operations in order through their headless forms, for the photo described. An image
     // an operation leaves empty is reported instead of being handed to the next one, and one
     // that would grow past pixelBudget is refused before it is made.
@@ -118,7 +128,14 @@ public:
     static QString createRunFolder(const QString& base, const QDateTime& start, bool exclusive);
 
 private:
+    // The destination, or the subfolder of it that source goes into; empty, with the reason in
+    // error, when that cannot be had.
+    QString targetFolder(const QString& source, QString& error) const;
+    // Whether a result must not go to target under the options.
+    bool isTaken(const QString& target) const;
+
     QStringList sources;
+    QHash<QString, QString> inputFolders;
     OutputSettings settings;
     QString destination;
     QString extension;

@@ -18,6 +18,9 @@ const char keyCopyright[] = "KeyCopyright";
 const char keyBackground[] = "KeyBackground";
 const char keyShortExtensions[] = "KeyShortExtensions";
 const char keyMaxKilobytes[] = "KeyMaxKilobytes";
+const char keyConvertToSrgb[] = "KeyConvertToSrgb";
+const char keySaveInto[] = "KeySaveInto";
+const char keyKeepFolders[] = "KeyKeepFolders";
 
 // A stored number, or the default when the stored text is not one.
 int readInt(const char* key, int defaultValue)
@@ -52,6 +55,11 @@ OutputSettings OutputSettings::load()
     settings.shortExtensions =
         OrkTools::AppData::readSetting(keyShortExtensions, defaults.shortExtensions).toBool();
     settings.maxKilobytes = qMax(0, readInt(keyMaxKilobytes, defaults.maxKilobytes));
+    settings.convertToSrgb =
+        OrkTools::AppData::readSetting(keyConvertToSrgb, defaults.convertToSrgb).toBool();
+    settings.saveInto = OrkTools::AppData::readSetting(keySaveInto, defaults.saveInto).toString();
+    settings.keepFolders =
+        OrkTools::AppData::readSetting(keyKeepFolders, defaults.keepFolders).toBool();
     return settings;
 }
 
@@ -70,6 +78,9 @@ void OutputSettings::save() const
     OrkTools::AppData::writeSetting(keyBackground, background.name());
     OrkTools::AppData::writeSetting(keyShortExtensions, shortExtensions);
     OrkTools::AppData::writeSetting(keyMaxKilobytes, maxKilobytes);
+    OrkTools::AppData::writeSetting(keyConvertToSrgb, convertToSrgb);
+    OrkTools::AppData::writeSetting(keySaveInto, saveInto);
+    OrkTools::AppData::writeSetting(keyKeepFolders, keepFolders);
 }
 
 QString OutputSettings::extension() const

@@ -22,6 +22,14 @@ struct OutputSettings
     bool shortExtensions = false; // "KeyShortExtensions": ".jpg" and ".tif" instead of the names
     // "KeyMaxKilobytes": the largest file in a format takesSizeBudget names, 0 for no limit.
     int maxKilobytes = 0;
+    // "KeyConvertToSrgb": pixels converted from the photo's colour profile to sRGB before the flow.
+    bool convertToSrgb = false;
+    // "KeySaveInto": the folder the results go into; empty for a new time-stamped folder under
+    // the output base folder.
+    QString saveInto;
+    // "KeyKeepFolders": a photo found in a folder given as input goes into the same subfolder
+    // below the output folder.
+    bool keepFolders = false;
 
     // The stored values; a key that is missing or unreadable gives the default above.
     static OutputSettings load();

@@ -213,7 +213,8 @@ PhotoMetadata PhotoMetadata::read(const QString& path)
 }
 
 QByteArray PhotoMetadata::embedInto(const QByteArray& encoded, QSize size,
-                                    const OutputSettings& settings) const
+                                    const OutputSettings& settings,
+                                    const QByteArray& iccProfile) const
 {
     Data carried = data && settings.metadata != RemoveAll ? *data : Data();
     if (settings.metadata == RemoveLocation) {
@@ -222,7 +223,8 @@ QByteArray PhotoMetadata::embedInto(const QByteArray& encoded, QSize size,
         eraseIf(carried.xmp, isLocation);
     }
     addAuthor(carried.exif, carried.iptc, carried.xmp, settings.artist, settings.copyright);
-    if (!carriesAnything(carried.exif, carried.iptc, carried.xmp))
+    const bool carries = carriesAnything(carried.exif, carried.iptc, carried.xmp);
+    if (!carries && iccProfile.isEmpty())
         return encoded;
     describeResult(carried.exif, carried.xmp, size);
     try {
@@ -233,12 +235,25 @@ QByteArray PhotoMetadata::embedInto(const QByteArray& encoded, QSize size,
             return encoded;
         // The writer's own tags (a TIFF's strips, the ICC profile) stay as they are.
         image->readMetadata();
-        Exiv2::ExifData exif = image->exifData();
-        for (const Exiv2::Exifdatum& datum : carried.exif)
-            exif[datum.key()] = datum.value();
-        image->setExifData(exif);
-        image->setIptcData(carried.iptc);
-        image->setXmpData(carried.xmp);
+        // Qt's PNG and TIFF writers leave out a profile Qt cannot read. Exiv2 writes PNG's
+        // profile chunk without the name libpng requires, so a PNG goes without it.
+        const bool profileLeftOut = !iccProfile.isEmpty() && !image->iccProfileDefined() &&
+                                    image->mimeType() != "image/png";
+        if (!carries && !profileLeftOut)
+            return encoded;
+        if (profileLeftOut) {
+            Exiv2::DataBuf profile(reinterpret_cast<const Exiv2::byte*>(iccProfile.constData()),
+                                   iccProfile.size());
+            image->setIccProfile(profile);
+        }
+        if (carries) {
+            Exiv2::ExifData exif = image->exifData();
+            for (const Exiv2::Exifdatum& datum : carried.exif)
+                exif[datum.key()] = datum.value();
+            image->setExifData(exif);
+            image->setIptcData(carried.iptc);
+            image->setXmpData(carried.xmp);
+        }
         image->writeMetadata();
         Exiv2::BasicIo& io = image->io();
         io.open();

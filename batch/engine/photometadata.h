@@ -22,10 +22,11 @@ public:
     static PhotoMetadata read(const QString& path);
 
     // encoded (a whole JPEG, PNG, TIFF or WebP file) with this metadata written into it as settings
-    // choose, for a result of size that is upright and carries no thumbnail. The bytes come back
-    // unchanged when there is nothing to carry or the format or the data cannot take it.
-    QByteArray embedInto(const QByteArray& encoded, QSize size,
-                         const OutputSettings& settings) const;
+    // choose, for a result of size that is upright and carries no thumbnail, and with the ICC
+    // profile iccProfile where the image writer left it out. The bytes come back unchanged when
+    // there is nothing to carry or the format or the data cannot take it.
+    QByteArray embedInto(const QByteArray& encoded, QSize size, const OutputSettings& settings,
+                         const QByteArray& iccProfile = {}) const;
 
     // What a watermark's text may name of the photo at path that this metadata was read from;
     // index is its place among count photos (-1 and 0: no list, number and count stay 0).

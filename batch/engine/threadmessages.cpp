@@ -26,7 +26,9 @@ ThreadMessages::~ThreadMessages()
 void ThreadMessages::handle(QtMsgType type, const QMessageLogContext& context,
                             const QString& message)
 {
-    if (current && (type == QtWarningMsg || type == QtCriticalMsg))
+    // A colour profile Qt cannot read leaves the pixels whole: the photo is no less readable.
+    const bool aboutProfile = qstrcmp(context.category, "qt.gui.icc") == 0;
+    if (current && !aboutProfile && (type == QtWarningMsg || type == QtCriticalMsg))
         current->gathered << message;
     else
         passOn(type, context, message);

@@ -8,7 +8,8 @@ class ThreadMessages
 {
 public:
     // Warnings and criticals that the calling thread sends from now until destruction are kept
-    // here; other threads and other levels go on to the handler installed before.
+    // here; other threads, other levels and notes about colour profiles go on to the handler
+    // installed before.
     ThreadMessages();
     ~ThreadMessages();
 

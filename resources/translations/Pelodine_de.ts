@@ -4,7 +4,7 @@
 <context>
     <name>AppSettingsDialog</name>
     <message>
-        <location filename="../../batch/appsettingsdialog.cpp" line="+22"/>
+        <location filename="../../batch/appsettingsdialog.cpp" line="+23"/>
         <source> Settings</source>
         <translation> Einstellungen</translation>
     </message>
@@ -134,7 +134,42 @@
         <translation>Copyright:</translation>
     </message>
     <message>
+        <location line="+3"/>
+        <source>A new folder for each run</source>
+        <translation>Neuer Ordner je Durchlauf</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Keep folder structure</source>
+        <translation>Ordnerstruktur beibehalten</translation>
+    </message>
+    <message>
         <location line="+1"/>
+        <source>A photo from a subfolder of a folder you added goes into the same subfolder of the results</source>
+        <translation>Ein Foto aus einem Unterordner eines hinzugefügten Ordners kommt in denselben Unterordner der Ergebnisse</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Convert to sRGB</source>
+        <translation>In sRGB umwandeln</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Colours converted from the photo&apos;s profile to sRGB, as the web expects</source>
+        <translation>Farben vom Profil des Fotos nach sRGB umgerechnet, wie es das Web erwartet</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Save into:</source>
+        <translation>Speichern in:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Ok</source>
         <translation>OK</translation>
     </message>
@@ -142,6 +177,11 @@
         <location line="+2"/>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Save into</source>
+        <translation>Speichern in</translation>
     </message>
 </context>
 <context>
@@ -195,18 +235,18 @@
     </message>
     <message>
         <location line="+11"/>
-        <location line="+51"/>
+        <location line="+55"/>
         <location line="+42"/>
         <source>Pause</source>
         <translation>Pause</translation>
     </message>
     <message>
-        <location line="-90"/>
+        <location line="-94"/>
         <source>Stop</source>
         <translation>Stopp</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+52"/>
         <source>Resume</source>
         <translation>Fortsetzen</translation>
     </message>
@@ -224,17 +264,17 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+159"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+220"/>
         <source>no photo at position %1</source>
         <translation>kein Foto an Position %1</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+31"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-116"/>
+        <location line="-166"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
@@ -259,12 +299,23 @@
         <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+26"/>
+        <source>cannot write: the photo is not inside %1</source>
+        <translation>Schreiben nicht möglich: das Foto liegt nicht in %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <location line="+58"/>
         <source>cannot write: %1 is a link</source>
         <translation>Schreiben nicht möglich: %1 ist eine Verknüpfung</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="-57"/>
+        <source>cannot create the folder %1</source>
+        <translation>der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <location line="+59"/>
         <source>cannot write: %1 is not a regular file</source>
         <translation>Schreiben nicht möglich: %1 ist keine normale Datei</translation>
     </message>
@@ -274,7 +325,7 @@
         <translation>Schreiben nicht möglich: %1 existiert bereits</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+26"/>
         <source>larger than %1 KB even at quality 1</source>
         <translation>größer als %1 KB selbst bei Qualität 1</translation>
     </message>
@@ -299,7 +350,7 @@
         <translation>nicht lesbar: %1</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unreadable: a drawing (%1), not a photo</source>
         <translation>nicht lesbar: eine Zeichnung (%1), kein Foto</translation>
     </message>
@@ -319,12 +370,12 @@
         <translation>nicht lesbar: kein Foto, das dieses Programm lesen kann</translation>
     </message>
     <message>
-        <location line="-30"/>
+        <location line="-29"/>
         <source>unreadable: no such file</source>
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="-187"/>
+        <location line="-238"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -386,17 +437,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+86"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+95"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Fotos hierher ziehen&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="-65"/>
+        <location line="-74"/>
         <source>Click to open the photos</source>
         <translation>Klicken, um Fotos zu öffnen</translation>
     </message>
     <message>
-        <location line="+70"/>
+        <location line="+79"/>
         <source>Open the photos</source>
         <translation>Fotos öffnen</translation>
     </message>
@@ -1448,7 +1499,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+69"/>
+        <location filename="../../app/batchmain.cpp" line="+71"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1532,6 +1583,21 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
     </message>
     <message>
         <location line="+4"/>
+        <source>Convert each photo from its colour profile to sRGB before the flow and embed sRGB, as the web expects; a photo without a profile is taken as sRGB. Without it the photo&apos;s own profile is embedded.</source>
+        <translation>Jedes Foto vor dem Ablauf von seinem Farbprofil nach sRGB umrechnen und sRGB einbetten, wie es das Web erwartet; ein Foto ohne Profil gilt als sRGB. Ohne diese Option wird das eigene Profil des Fotos eingebettet.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Write a photo found in a subfolder of a FOLDER given into the same subfolder below the output folder. The default, unless --use-window-settings says otherwise.</source>
+        <translation>Ein Foto aus einem Unterordner eines angegebenen FOLDER in denselben Unterordner unter dem Ausgabeordner schreiben. Standard, sofern --use-window-settings nichts anderes sagt.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Write every photo straight into the output folder.</source>
+        <translation>Jedes Foto direkt in den Ausgabeordner schreiben.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Run a flow that holds something that cannot be taken (an unknown operation, a logo that does not decode) without it, instead of stopping.</source>
         <translation>Einen Ablauf, der etwas enthält, das nicht übernommen werden kann (eine unbekannte Operation, ein Logo, das sich nicht dekodieren lässt), ohne dieses ausführen, statt anzuhalten.</translation>
     </message>
@@ -1616,7 +1682,12 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>die Endung muss format oder short sein</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+6"/>
+        <source>--keep-folders and --no-keep-folders exclude each other</source>
+        <translation>--keep-folders und --no-keep-folders schließen einander aus</translation>
+    </message>
+    <message>
+        <location line="+15"/>
         <source>--contact-sheet writes no results: it does not go with --output</source>
         <translation>--contact-sheet schreibt keine Ergebnisse: es passt nicht zu --output</translation>
     </message>
@@ -1626,7 +1697,7 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>die Datei des Kontaktbogens muss auf die Endung eines Ausgabeformats enden: %1</translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+51"/>
         <source>no photos given</source>
         <translation>keine Fotos angegeben</translation>
     </message>
@@ -1636,7 +1707,7 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>pelodine-batch: nichts geschrieben; --lenient führt den Ablauf ohne das Ausgelassene aus</translation>
     </message>
     <message>
-        <location line="+74"/>
+        <location line="+75"/>
         <source>contact sheet of %1 photos written into %2</source>
         <translation>Kontaktbogen mit %1 Fotos in %2 geschrieben</translation>
     </message>
@@ -1654,12 +1725,12 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>siehe pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-169"/>
+        <location line="-172"/>
         <source>no photos in the folders given</source>
         <translation>keine Fotos in den angegebenen Ordnern</translation>
     </message>
     <message>
-        <location line="-193"/>
+        <location line="-217"/>
         <source>The quality of JPEG, WEBP, AVIF, JXL and HEIC.</source>
         <translation>Die Qualität von JPEG, WEBP, AVIF, JXL und HEIC.</translation>
     </message>
@@ -1669,8 +1740,8 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>Jede JPEG-, WEBP-, AVIF- oder JXL-Datei höchstens N Kilobyte groß halten: die höchste Qualität bis --quality, die passt; ein Foto, das selbst bei Qualität 1 nicht passt, wird mit 1 geschrieben und genannt.</translation>
     </message>
     <message>
-        <location line="+178"/>
-        <location line="+100"/>
+        <location line="+204"/>
+        <location line="+101"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>

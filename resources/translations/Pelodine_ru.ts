@@ -4,7 +4,7 @@
 <context>
     <name>AppSettingsDialog</name>
     <message>
-        <location filename="../../batch/appsettingsdialog.cpp" line="+22"/>
+        <location filename="../../batch/appsettingsdialog.cpp" line="+23"/>
         <source> Settings</source>
         <translation> Настройки</translation>
     </message>
@@ -134,7 +134,42 @@
         <translation>Авторское право:</translation>
     </message>
     <message>
+        <location line="+3"/>
+        <source>A new folder for each run</source>
+        <translation>Новая папка для каждого запуска</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Browse...</source>
+        <translation>Обзор...</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Keep folder structure</source>
+        <translation>Сохранять структуру папок</translation>
+    </message>
+    <message>
         <location line="+1"/>
+        <source>A photo from a subfolder of a folder you added goes into the same subfolder of the results</source>
+        <translation>Фото из подпапки добавленной папки попадает в ту же подпапку результатов</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Convert to sRGB</source>
+        <translation>Преобразовать в sRGB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Colours converted from the photo&apos;s profile to sRGB, as the web expects</source>
+        <translation>Цвета переводятся из профиля фото в sRGB, как того ждёт веб</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Save into:</source>
+        <translation>Сохранять в:</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Ok</source>
         <translation>ОК</translation>
     </message>
@@ -142,6 +177,11 @@
         <location line="+2"/>
         <source>Cancel</source>
         <translation>Отмена</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Save into</source>
+        <translation>Сохранять в</translation>
     </message>
 </context>
 <context>
@@ -195,18 +235,18 @@
     </message>
     <message>
         <location line="+11"/>
-        <location line="+51"/>
+        <location line="+55"/>
         <location line="+42"/>
         <source>Pause</source>
         <translation>Пауза</translation>
     </message>
     <message>
-        <location line="-90"/>
+        <location line="-94"/>
         <source>Stop</source>
         <translation>Стоп</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+52"/>
         <source>Resume</source>
         <translation>Продолжить</translation>
     </message>
@@ -224,17 +264,17 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+159"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+220"/>
         <source>no photo at position %1</source>
         <translation>нет фото в позиции %1</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+31"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-116"/>
+        <location line="-166"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
@@ -259,12 +299,23 @@
         <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+26"/>
+        <source>cannot write: the photo is not inside %1</source>
+        <translation>запись невозможна: фото лежит не внутри %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <location line="+58"/>
         <source>cannot write: %1 is a link</source>
         <translation>запись невозможна: %1 — ссылка</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="-57"/>
+        <source>cannot create the folder %1</source>
+        <translation>не удаётся создать папку %1</translation>
+    </message>
+    <message>
+        <location line="+59"/>
         <source>cannot write: %1 is not a regular file</source>
         <translation>запись невозможна: %1 — не обычный файл</translation>
     </message>
@@ -274,7 +325,7 @@
         <translation>запись невозможна: %1 уже существует</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+26"/>
         <source>larger than %1 KB even at quality 1</source>
         <translation>больше %1 КБ даже при качестве 1</translation>
     </message>
@@ -299,7 +350,7 @@
         <translation>не читается: %1</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+5"/>
         <source>unreadable: a drawing (%1), not a photo</source>
         <translation>не читается: рисунок (%1), а не фотография</translation>
     </message>
@@ -319,12 +370,12 @@
         <translation>не читается: это не фото, которое может прочитать программа</translation>
     </message>
     <message>
-        <location line="-30"/>
+        <location line="-29"/>
         <source>unreadable: no such file</source>
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="-187"/>
+        <location line="-238"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -386,17 +437,17 @@
 <context>
     <name>CreatorDropArea</name>
     <message>
-        <location filename="../../mainpage/creatordroparea.cpp" line="+86"/>
+        <location filename="../../mainpage/creatordroparea.cpp" line="+95"/>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
         <translation>&lt;H2&gt;Перетащите фото сюда&lt;/H2&gt;</translation>
     </message>
     <message>
-        <location line="-65"/>
+        <location line="-74"/>
         <source>Click to open the photos</source>
         <translation>Нажмите, чтобы открыть фото</translation>
     </message>
     <message>
-        <location line="+70"/>
+        <location line="+79"/>
         <source>Open the photos</source>
         <translation>Открыть фото</translation>
     </message>
@@ -1448,7 +1499,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+69"/>
+        <location filename="../../app/batchmain.cpp" line="+71"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1532,6 +1583,21 @@ A source photo is never written over; nothing is written through a link, outside
     </message>
     <message>
         <location line="+4"/>
+        <source>Convert each photo from its colour profile to sRGB before the flow and embed sRGB, as the web expects; a photo without a profile is taken as sRGB. Without it the photo&apos;s own profile is embedded.</source>
+        <translation>Перевести каждое фото из его цветового профиля в sRGB до сценария и встроить sRGB, как того ждёт веб; фото без профиля считается sRGB. Без этого параметра встраивается собственный профиль фото.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Write a photo found in a subfolder of a FOLDER given into the same subfolder below the output folder. The default, unless --use-window-settings says otherwise.</source>
+        <translation>Записывать фото из подпапки указанной FOLDER в ту же подпапку внутри папки вывода. По умолчанию, если --use-window-settings не говорит иного.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Write every photo straight into the output folder.</source>
+        <translation>Записывать каждое фото прямо в папку вывода.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Run a flow that holds something that cannot be taken (an unknown operation, a logo that does not decode) without it, instead of stopping.</source>
         <translation>Выполнять поток, содержащий то, что нельзя принять (неизвестную операцию, недекодируемый логотип), без этого, а не останавливаться.</translation>
     </message>
@@ -1616,7 +1682,12 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>расширение должно быть format или short</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+6"/>
+        <source>--keep-folders and --no-keep-folders exclude each other</source>
+        <translation>--keep-folders и --no-keep-folders исключают друг друга</translation>
+    </message>
+    <message>
+        <location line="+15"/>
         <source>--contact-sheet writes no results: it does not go with --output</source>
         <translation>--contact-sheet не записывает результатов: он несовместим с --output</translation>
     </message>
@@ -1626,7 +1697,7 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>файл листа просмотра должен иметь расширение формата вывода: %1</translation>
     </message>
     <message>
-        <location line="+49"/>
+        <location line="+51"/>
         <source>no photos given</source>
         <translation>фото не указаны</translation>
     </message>
@@ -1636,7 +1707,7 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>pelodine-batch: ничего не записано; --lenient выполняет поток без пропущенного</translation>
     </message>
     <message>
-        <location line="+74"/>
+        <location line="+75"/>
         <source>contact sheet of %1 photos written into %2</source>
         <translation>лист просмотра с %1 фото записан в %2</translation>
     </message>
@@ -1655,12 +1726,12 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>см. pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-169"/>
+        <location line="-172"/>
         <source>no photos in the folders given</source>
         <translation>в указанных папках нет фото</translation>
     </message>
     <message>
-        <location line="-193"/>
+        <location line="-217"/>
         <source>The quality of JPEG, WEBP, AVIF, JXL and HEIC.</source>
         <translation>Качество JPEG, WEBP, AVIF, JXL и HEIC.</translation>
     </message>
@@ -1670,8 +1741,8 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>Держать каждый файл JPEG, WEBP, AVIF или JXL не больше N килобайт: наибольшее качество до --quality, которое подходит; фотография, которая не подходит даже при качестве 1, записывается с качеством 1 и называется.</translation>
     </message>
     <message>
-        <location line="+178"/>
-        <location line="+100"/>
+        <location line="+204"/>
+        <location line="+101"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>

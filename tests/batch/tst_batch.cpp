@@ -9,11 +9,13 @@
 #include "flowfile.h"
 #include "flowoperations.h"
 #include "outputsettings.h"
+#include "photofiles.h"
 #include "testutils.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QDateTime>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QSettings>
@@ -21,6 +23,7 @@
 
 #include <exiv2/exiv2.hpp>
 
+#include <cmath>
 #include <memory>
 
 using OrkWidgets::App;
@@ -54,6 +57,17 @@ void store(const QString& settings)
     for (const auto& [key, value] : TestUtils::keyValues(settings))
         if (!key.isEmpty())
             OrkTools::AppData::writeSetting(key, value);
+}
+
+// The files below folder by their paths relative to it, in name order.
+QString treeOf(const QString& folder)
+{
+    QStringList names;
+    QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        names << QDir(folder).relativeFilePath(files.next());
+    names.sort();
+    return names.join(' ');
 }
 
 // A 40 x 30 Adobe RGB JPEG as a camera writes it (Orientation 6: shown 30 wide, 40 high), with
@@ -359,19 +373,22 @@ private slots:
         }
         // Without the option the tool's defaults hold, whatever the window has stored.
         const QString renamePng = "KeyRename=true|KeyNewName=S|KeyFormat=PNG|KeyQuality=30";
-        const QString jpegs = "photo0.jpeg photo1.jpeg photo2.jpeg";
-        addRow("stored not asked for", renamePng, "", "", jpegs);
+        // Without the window's settings the tool keeps the folder's tree, and so does the window
+        // when asked to.
+        const QString jpegs = "photo0.jpeg photo1.jpeg sub/photo2.jpeg";
+        addRow("stored not asked for", renamePng, "", "KeyKeepFolders=true", jpegs);
         addRow("no-rename over stored", renamePng, window + " --no-rename", "KeyFormat=PNG",
                "photo0.png photo1.png photo2.png");
-        addRow("flow by name", "", "--flow job", "", jpegs);
-        addRow("flow by file name", "", "--flow job.flow", "", jpegs);
+        addRow("flow by name", "", "--flow job", "KeyKeepFolders=true", jpegs);
+        addRow("flow by file name", "", "--flow job.flow", "KeyKeepFolders=true", jpegs);
         addRow("renamed even, stored", "KeyRename=true|KeyNewName=S|KeyNumbers=2", window,
                "KeyRename=true|KeyNewName=S|KeyNumbers=2", "S2.jpeg S4.jpeg S6.jpeg");
         addRow("options over stored", "KeyFormat=BMP|KeyQuality=80",
                window + " --format jpeg --quality 30 --rename S --numbers odd",
                "KeyQuality=30|KeyRename=true|KeyNewName=S|KeyNumbers=1", "S1.jpeg S3.jpeg S5.jpeg");
-        addRow("numbers all", "", "--rename S --numbers all", "KeyRename=true|KeyNewName=S",
-               "S0.jpeg S1.jpeg S2.jpeg");
+        addRow("numbers all", "", "--rename S --numbers all",
+               "KeyRename=true|KeyNewName=S|KeyKeepFolders=true", "S0.jpeg S1.jpeg sub/S2.jpeg");
+        addRow("flat", "", "--no-keep-folders", "", "photo0.jpeg photo1.jpeg photo2.jpeg");
     }
 
     // The window's batch with the window settings, and pelodine-batch with the options over the
@@ -387,8 +404,10 @@ private slots:
         BatchWorker worker;
         const QString windowFolder = root->path() + "/window/";
         QDir().mkpath(windowFolder);
+        QHash<QString, QString> foundIn;
+        PhotoFiles::expandFolders(urls({in}), &foundIn);
         worker.prepare(OutputSettings::load(), windowFolder, urls(photos),
-                       batchOperationsFromFlow(watermarkFlow));
+                       batchOperationsFromFlow(watermarkFlow), foundIn);
         worker.slotDoWork();
 
         store(stored);
@@ -396,8 +415,8 @@ private slots:
         if (!options.contains("--flow"))
             arguments << "--flow" << flow;
         QCOMPARE(run(arguments + QStringList{"--output", out, in}).exitCode, 0);
-        QCOMPARE(fileNames(out), files);
-        QCOMPARE(fileNames(windowFolder), files);
+        QCOMPARE(treeOf(out), files);
+        QCOMPARE(treeOf(windowFolder), files);
         for (const QString& name : files.split(' '))
             QVERIFY2(readFile(out + name) == readFile(windowFolder + name), qPrintable(name));
         const QImage first(out + files.section(' ', 0, 0));
@@ -416,7 +435,7 @@ private slots:
         QVERIFY2(QDateTime::fromString(folders.first(), "yyyy-MM-dd_hh-mm-ss").isValid(),
                  qPrintable(folders.first()));
         const QString folder = OrkTools::AppData::outputBaseFolder() + folders.first() + "/";
-        QCOMPARE(fileNames(folder), QString("photo0.jpeg photo1.jpeg photo2.jpeg"));
+        QCOMPARE(treeOf(folder), QString("photo0.jpeg photo1.jpeg sub/photo2.jpeg"));
         const QStringList expected{"1 of 3: " + photos.at(0), "2 of 3: " + photos.at(1),
                                    "3 of 3: " + photos.at(2),
                                    "3 of 3 photos written into " + folder};
@@ -491,12 +510,108 @@ private slots:
         QVERIFY(found.keys().filter("Exif.Thumbnail.").isEmpty());
         QCOMPARE(readFile(source), before);
 
-        // An upright photo keeps its colour profile past the metadata.
+        // The photo keeps its colour profile past the turn, the flow and the metadata, upright
+        // or not.
         const QString upright = writeCameraPhoto(in + "/up.jpg", 1);
         QCOMPARE(run(arguments.replaceInStrings(source, upright)).exitCode, 0);
-        if (format != "XPM")
-            QCOMPARE(QImage(out + "up." + format.toLower()).colorSpace().primaries(),
-                     QColorSpace::Primaries::AdobeRgb);
+        for (const QString& written : {result, out + "up." + format.toLower()}) {
+            if (format != "XPM")
+                QCOMPARE(QImage(written).colorSpace().primaries(),
+                         QColorSpace::Primaries::AdobeRgb);
+        }
+    }
+
+    // Adobe RGB (1998) to sRGB by the published matrices: the gamma 563/256 undone, to XYZ (D65),
+    // to linear sRGB, clipped, through the sRGB curve. Pure red lies outside sRGB and stays
+    // (255, 0, 0); (100, 150, 200) becomes (66, 151, 203). A profile that cannot be read leaves
+    // the pixels as they are, taken as sRGB.
+    void convertToSrgb()
+    {
+        const double adobeToXyz[3][3] = {{0.5767309, 0.1855540, 0.1881852},
+                                         {0.2973769, 0.6273491, 0.0752741},
+                                         {0.0270343, 0.0706872, 0.9911085}};
+        const double xyzToSrgb[3][3] = {{3.2404542, -1.5371385, -0.4985314},
+                                        {-0.9692660, 1.8760108, 0.0415560},
+                                        {0.0556434, -0.2040259, 1.0572252}};
+        // Channel i (0 red, 1 green, 2 blue) of the Adobe RGB colour in sRGB, 0 to 255.
+        const auto channel = [&](QRgb adobe, int i) {
+            double srgb = 0;
+            for (int j = 0; j < 3; ++j) {
+                for (int k = 0; k < 3; ++k)
+                    srgb += xyzToSrgb[i][j] * adobeToXyz[j][k] *
+                            std::pow((adobe >> (16 - 8 * k) & 0xff) / 255.0, 563.0 / 256);
+            }
+            srgb = qBound(0.0, srgb, 1.0);
+            return 255 *
+                   (srgb <= 0.0031308 ? 12.92 * srgb : 1.055 * std::pow(srgb, 1 / 2.4) - 0.055);
+        };
+        QImage adobe = TestUtils::filledImage(2, 1, qRgb(255, 0, 0));
+        adobe.setPixel(1, 0, qRgb(100, 150, 200));
+        adobe.setColorSpace(QColorSpace::AdobeRgb);
+        TestUtils::writeImage(in + "/adobe.png", adobe);
+        adobe.setColorSpace(QColorSpace::fromIccProfile("acspbroken profile"));
+        adobe.save(in + "/broken.jpg", "JPEG", 100);
+        const QString none = TestUtils::writeFile(in + "/none.flow", "<OperationsFlow/>");
+        QCOMPARE(run({"--srgb", "--format", "PNG", "--flow", none, "--output", out, in}).exitCode,
+                 0);
+
+        const QImage converted(out + "adobe.png");
+        QCOMPARE(converted.colorSpace(), QColorSpace(QColorSpace::SRgb));
+        for (int x = 0; x < 2; ++x) {
+            const QRgb pixel = converted.pixel(x, 0);
+            for (int i = 0; i < 3; ++i)
+                QVERIFY2(qAbs(int(pixel >> (16 - 8 * i) & 0xff) - channel(adobe.pixel(x, 0), i)) <=
+                             2,
+                         qPrintable(QString::number(pixel, 16)));
+        }
+        const QImage kept(out + "broken.png");
+        QCOMPARE(kept.colorSpace(), QColorSpace(QColorSpace::SRgb));
+        QCOMPARE(kept.pixel(1, 0), QImage(in + "/broken.jpg").pixel(1, 0));
+    }
+
+    // A profile Qt cannot read (here one that claims CMYK) still travels into a TIFF.
+    void unreadableProfileTravels()
+    {
+        QByteArray profile = QColorSpace(QColorSpace::AdobeRgb).iccProfile();
+        profile.replace(16, 4, "CMYK");
+        QImage image = TestUtils::filledImage(4, 2, 0xffc86432);
+        image.setColorSpace(QColorSpace::fromIccProfile(profile));
+        const QString source = TestUtils::writeImage(in + "/cmyk.jpg", image);
+        QCOMPARE(run({"--format", "TIFF", "--output", out, source}).exitCode, 0);
+        QCOMPARE(QImage(out + "cmyk.tiff").colorSpace().iccProfile(), profile);
+    }
+
+    // A subfolder of the output folder that is a link is not gone through.
+    void keepFoldersNotThroughALink()
+    {
+        const QString subPhoto = writePhotos().at(2);
+        const QString none = TestUtils::writeFile(root->path() + "/none.flow", "<OperationsFlow/>");
+        QDir().mkpath(root->path() + "/elsewhere");
+        QVERIFY(QFile::link(root->path() + "/elsewhere", out + "sub"));
+        const Outcome outcome = run({"--flow", none, "--output", out, in});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.err.contains(subPhoto + ": cannot write: " + out + "sub is a link"),
+                 qPrintable(outcome.err));
+        QCOMPARE(treeOf(root->path() + "/elsewhere"), QString());
+    }
+
+    // The window's chosen folder takes the results without a time-stamped folder; a file there
+    // that the run did not write stays, and the result goes beside it.
+    void saveIntoTheChosenFolder()
+    {
+        const QString earlier = TestUtils::writeFile(out + "photo0.png", "kept");
+        store("KeyOpenLocation=false|KeyFormat=PNG|KeyKeepFolders=true|KeySaveInto=" + out);
+        writePhotos();
+        QHash<QString, QString> foundIn;
+        const QList<QUrl> photos = PhotoFiles::expandFolders(urls({in}), &foundIn);
+        BatchDialog dialog;
+        dialog.startBatch({}, photos, foundIn);
+        dialog.open();
+        QTRY_VERIFY_WITH_TIMEOUT(!dialog.isVisible(), 20000);
+        QCOMPARE(dialog.destinationFolder(), out);
+        QCOMPARE(treeOf(out), QString("photo0 (2).png photo0.png photo1.png sub/photo2.png"));
+        QCOMPARE(readFile(earlier), QByteArray("kept"));
+        QVERIFY(!QDir(OrkTools::AppData::outputBaseFolder()).exists());
     }
 
     // Formats without transparency lay a clear photo on the background (white unless chosen);
