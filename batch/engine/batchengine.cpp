@@ -35,14 +35,20 @@ QStringList pathForms(const QString& path)
 // shows the background chosen rather than whatever colour the clear pixels hold.
 QImage laidOn(const QImage& image, const QColor& background)
 {
-    const QImage words = image.convertToFormat(QImage::Format_ARGB32);
+    if (!image.hasAlphaChannel())
+        return image;
+    // Both 32-bit formats with alpha keep it in the word's top byte, so they are looked at as
+    // they are; an opaque photo then costs no copy.
+    const bool alphaWords = image.format() == QImage::Format_ARGB32 ||
+                            image.format() == QImage::Format_ARGB32_Premultiplied;
+    const QImage words = alphaWords ? image : image.convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < words.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(words.constScanLine(y));
         if (std::all_of(row, row + words.width(), [](QRgb pixel) { return qAlpha(pixel) == 255; }))
             continue;
         QImage result(words.size(), QImage::Format_RGB32);
         result.fill(background);
-        QPainter(&result).drawImage(0, 0, words);
+        QPainter(&result).drawImage(0, 0, image.convertToFormat(QImage::Format_ARGB32));
         return result;
     }
     return image;
@@ -86,6 +92,7 @@ BatchEngine::BatchEngine(const QStringList& sources, const BatchOperations& oper
     , extension("." + settings.extension())
     , options(options)
     , operations(prepare(operations))
+    , buffers(ImageBuffers::create(2))
 {
     for (const QString& source : sources) {
         const QStringList forms = pathForms(source);
@@ -131,11 +138,11 @@ BatchEngine::Photo BatchEngine::process(int index)
     if (index == readAheadIndex)
         photo = readAhead.result();
     else
-        photo = load(sources.at(index), options.pixelBudget);
+        photo = load(sources.at(index), options.pixelBudget, {buffers.get()});
     readAheadIndex = index + 1;
     readAhead = readAheadIndex < sources.size()
                     ? QtConcurrent::run(&readerPool, &BatchEngine::load, sources.at(readAheadIndex),
-                                        options.pixelBudget)
+                                        options.pixelBudget, PhotoDecoding{buffers.get()})
                     : QFuture<Photo>();
     if (photo.image.isNull())
         return photo;
@@ -222,7 +229,8 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     return {true, {}, note};
 }
 
-BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
+BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget,
+                                     const PhotoDecoding& decoding)
 {
     const QFileInfo info(path);
     if (!info.exists())
@@ -245,14 +253,21 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget)
     const QSize size = reader.size();
     if (size.isValid() && qint64(size.width()) * size.height() > pixelBudget)
         return {{}, tooLarge(size)};
+    // Decoded into the memory offered when the reader makes a 32-bit image of that very size.
+    QImage image = decoding.buffers ? decoding.buffers->take(size, reader.imageFormat()) : QImage();
     const ThreadMessages decoder;
-    QImage image = reader.read();
+    if (!reader.read(&image))
+        image = QImage();
     if (!decoder.messages().isEmpty())
         return {{}, tr("damaged: %1").arg(decoder.messages().constFirst().trimmed())};
     if (image.isNull())
         return {{}, tr("unreadable: not a photo this program can read")};
     if (qint64(image.width()) * image.height() > pixelBudget)
         return {{}, tooLarge(image.size())};
+    // RGB32 words are 0xffRRGGBB already: naming them ARGB32 is the conversion, without a pass
+    // over the pixels (or, for memory the image does not own, a copy).
+    if (image.format() == QImage::Format_RGB32 && image.reinterpretAsFormat(QImage::Format_ARGB32))
+        return {std::move(image), {}};
     return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}};
 }
 

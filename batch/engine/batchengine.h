@@ -3,6 +3,7 @@
 #pragma once
 
 #include "batchoperations.h"
+#include "imagebuffers.h"
 #include "operationcatalogue.h"
 #include "outputsettings.h"
 #include "photometadata.h"
@@ -16,6 +17,13 @@
 #include <QStringList>
 #include <QThreadPool>
 #include <QVector>
+
+// How BatchEngine::load may decode a photo.
+struct PhotoDecoding
+{
+    // Memory for the pixels, reused from photo to photo.
+    ImageBuffers* buffers = nullptr;
+};
 
 class BatchEngine
 {
@@ -96,7 +104,7 @@ public:
     // file is read; its size is read from its header first and a photo above pixelBudget is refused
     // undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged and
     // not taken, whatever it decoded. SVG drawings are not photos: they may read local files.
-    static Photo load(const QString& path, qint64 pixelBudget);
+    static Photo load(const QString& path, qint64 pixelBudget, const PhotoDecoding& decoding = {});
     // The operations in order through their headless forms. An image an operation leaves
     // empty is reported instead of being handed to the next one, and one that would grow past
     // pixelBudget is refused before it is made.
@@ -124,4 +132,5 @@ private:
     QThreadPool readerPool;
     int readAheadIndex = -1;
     QFuture<Photo> readAhead;
+    std::shared_ptr<ImageBuffers> buffers;
 };

@@ -41,7 +41,7 @@ PreparedOperation prepareHeadless(const QString& name, const QString& parameters
                 // The kernels read 32-bit words; a photo of another depth is widened first.
                 if (image.depth() != 32)
                     image = image.convertToFormat(QImage::Format_ARGB32);
-                return Op::run(image, values);
+                return Op::run(std::move(image), values);
             },
             [values](const QSize& size) { return sizeAfter(values, size); }};
 }

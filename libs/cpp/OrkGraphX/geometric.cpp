@@ -209,6 +209,20 @@ void copyShifted(const QImage& source, QImage& result, qint64 dx, qint64 dy)
     }
 }
 
+// The conversion from ARGB32 to ARGB32_Premultiplied, word for word what Qt's gives, done in
+// the image's own memory (Qt converts memory it did not allocate into a copy).
+void premultiplyInPlace(QImage& image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        QRgb* row = rowWords(image, y);
+        for (QRgb* pixel = row; pixel != row + image.width(); ++pixel) {
+            if (qAlpha(*pixel) != 255)
+                *pixel = qPremultiply(*pixel);
+        }
+    }
+    image.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
 } // namespace
 
 QImage rotateImage(QImage& image, int angle)
@@ -337,6 +351,10 @@ QImage resizeImage(QImage& image, int width, int height, int mode, bool previewM
 {
     if (image.isNull() || (previewMode && mode == 1))
         return image;
+    // Qt scales premultiplied words only; an image no one else holds is converted where it lies
+    // instead of into a copy as large.
+    if (image.format() == QImage::Format_ARGB32 && image.isDetached())
+        premultiplyInPlace(image);
     QSize target = resizedSize(image.size(), width, height, mode);
     // The interactive preview caps the longer requested side at 700 pixels.
     if (previewMode && mode == 2 && width >= 701)
