@@ -8,6 +8,7 @@
 #include "outputsettings.h"
 #include "pelodineconfig.h"
 #include "photofiles.h"
+#include "runclock.h"
 
 #include <QCommandLineParser>
 #include <QDateTime>
@@ -40,6 +41,10 @@ struct Job
     bool quiet = false;
     bool overwrite = false;
     bool lenient = false;
+    bool resume = false;
+    // This copy's share of the photos: the positions that leave shard when divided by shards.
+    int shard = 0;
+    int shards = 1;
 };
 
 // The tool's own words go to the standard error as it was at start; what the libraries
@@ -154,6 +159,26 @@ void addOptions(QCommandLineParser& parser)
                                              "taken (an unknown operation, a logo that does not "
                                              "decode) without it, instead of stopping.")},
         {"quiet", QCoreApplication::translate("main", "Print only the photos that failed.")},
+        {"jobs",
+         QCoreApplication::translate("main", "Work on N photos at once. Default: one per core "
+                                             "(%1).")
+             .arg(OutputSettings().jobCount()),
+         "N"},
+        {"fast",
+         QCoreApplication::translate("main", "Fast reading: when the flow begins by shrinking "
+                                             "the photo to half or less, read a JPEG at 1/2, 1/4 "
+                                             "or 1/8 of its size and finish the resize from "
+                                             "there. The results have the same size, a little "
+                                             "less sharp.")},
+        {"resume",
+         QCoreApplication::translate("main", "Skip every photo whose result is already in the "
+                                             "--output folder, as after a run that was stopped.")},
+        {"shard",
+         QCoreApplication::translate("main", "Take only the photos whose position (from 0) leaves "
+                                             "K when divided by N, named and numbered as in the "
+                                             "whole list: N copies with K = 0 .. N-1 share the "
+                                             "work."),
+         "K/N"},
     });
     parser.addPositionalArgument(
         "PHOTO|FOLDER",
@@ -193,6 +218,28 @@ bool wholeNumber(const QCommandLineParser& parser, const QString& name, int mini
     bool ok = false;
     value = parser.value(name).toInt(&ok);
     return ok && value >= minimum && value <= maximum;
+}
+
+// --resume and --shard.
+QString readShare(const QCommandLineParser& parser, Job& job)
+{
+    job.resume = parser.isSet("resume");
+    if (job.resume && !parser.isSet("output"))
+        return QCoreApplication::translate("main", "--resume needs the --output folder to "
+                                                   "resume in");
+    if (!parser.isSet("shard"))
+        return {};
+    const QStringList parts = parser.value("shard").split('/');
+    bool shardOk = false;
+    bool shardsOk = false;
+    if (parts.size() == 2) {
+        job.shard = parts.at(0).toInt(&shardOk);
+        job.shards = parts.at(1).toInt(&shardsOk);
+    }
+    if (!shardOk || !shardsOk || job.shards < 1 || job.shard < 0 || job.shard >= job.shards)
+        return QCoreApplication::translate("main", "the shard must be K/N with N at least 1 "
+                                                   "and K from 0 to N-1");
+    return {};
 }
 
 // The output settings' defaults, or the window's stored settings when asked for, with the
@@ -256,9 +303,15 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
         settings.artist = parser.value("artist");
     if (parser.isSet("copyright"))
         settings.copyright = parser.value("copyright");
+    if (parser.isSet("jobs") &&
+        !wholeNumber(parser, "jobs", 1, OutputSettings::maxJobs, settings.jobs))
+        return QCoreApplication::translate("main", "the jobs must be a whole number from 1 to %1")
+            .arg(OutputSettings::maxJobs);
+    if (parser.isSet("fast"))
+        settings.fastReading = true;
     job.overwrite = parser.isSet("overwrite");
     job.lenient = parser.isSet("lenient");
-    return {};
+    return readShare(parser, job);
 }
 
 QString findPhotos(const QStringList& arguments, Job& job)
@@ -331,25 +384,56 @@ bool acceptFlow(const Job& job)
     return false;
 }
 
+// The positions this copy takes; with --resume those whose result is there are left out and
+// counted in skipped.
+QVector<int> positionsToRun(const Job& job, const BatchEngine& engine, int& skipped)
+{
+    QVector<int> positions;
+    skipped = 0;
+    for (int index = job.shard; index < engine.count(); index += job.shards) {
+        if (job.resume && QFileInfo::exists(engine.target(index)))
+            ++skipped;
+        else
+            positions << index;
+    }
+    return positions;
+}
+
 int run(const Job& job)
 {
     if (!acceptFlow(job))
         return someFailed;
     BatchEngine engine(job.photos, job.operations, job.settings, job.destination,
-                       {true, job.overwrite, job.settings.pixelBudget()});
+                       {true, job.overwrite, job.settings.pixelBudget(), job.settings.jobCount(),
+                        job.settings.fastReading});
+    int skipped = 0;
+    const QVector<int> positions = positionsToRun(job, engine, skipped);
+    if (skipped > 0 && !job.quiet)
+        err() << QCoreApplication::translate("main",
+                                             "%n photo(s) skipped: their results are "
+                                             "already in %1",
+                                             nullptr, skipped)
+                     .arg(job.destination)
+              << Qt::endl;
     QStringList failures;
     QStringList notes;
-    const int count = engine.count();
-    for (int i = 0; i < count; ++i) {
-        const QString& source = job.photos.at(i);
+    const int count = positions.size();
+    RunClock clock(count);
+    const auto report = [&](int index, const BatchEngine::Result& result) {
+        clock.photoFinished();
+        const QString& source = job.photos.at(index);
         if (!job.quiet)
-            err() << i + 1 << " of " << count << ": " << source << Qt::endl;
-        const BatchEngine::Result result = engine.step(i);
+            err() << clock.finished() << " of " << count << ": " << source << " ("
+                  << clock.timeLeftText() << ", "
+                  << QCoreApplication::translate("main", "%1 photos/s")
+                         .arg(clock.photosPerSecond(), 0, 'f', 1)
+                  << ")" << Qt::endl;
         if (!result.written())
             failures << source + ": " + result.error;
         else if (!result.note.isEmpty())
             notes << source + ": " + result.note;
-    }
+    };
+    engine.run({[] { return BatchEngine::Next::Go; }, report}, positions);
     if (!job.quiet)
         err() << QCoreApplication::translate("main", "%1 of %2 photos written into %3")
                      .arg(count - failures.size())

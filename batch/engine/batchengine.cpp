@@ -1,6 +1,7 @@
 #include "batchengine.h"
 
 #include "operationcatalogue.h"
+#include "operations.h"
 #include "outputnaming.h"
 #include "threadmessages.h"
 
@@ -10,10 +11,14 @@
 #include <QImageWriter>
 #include <QPainter>
 #include <QSaveFile>
+#include <QThread>
+#include <QThreadPool>
 #include <QtConcurrent>
 
 #include <algorithm>
 #include <cerrno>
+#include <deque>
+#include <numeric>
 #include <sys/stat.h>
 #include <sys/types.h>
 
@@ -54,6 +59,29 @@ QImage laidOn(const QImage& image, const QColor& background)
     return image;
 }
 
+const int pausePollMs = 500;
+
+// Sets the reader to decode at the smallest of 1/8, 1/4 and 1/2 of size (as stored) that is
+// at least as large as what shrinksTo makes of the upright photo, and returns that; an empty
+// size, and the reader left as it is, when even half would be too small.
+QSize shrunkDecoding(QImageReader& reader, const QSize& size,
+                     const std::function<QSize(const QSize&)>& shrinksTo)
+{
+    const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QSize upright = turned ? size.transposed() : size;
+    const QSize target = shrinksTo(upright);
+    if (target.isEmpty())
+        return {};
+    for (const int factor : {8, 4, 2}) {
+        const QSize reduced(upright.width() / factor, upright.height() / factor);
+        if (reduced.width() >= target.width() && reduced.height() >= target.height()) {
+            reader.setScaledSize(turned ? reduced.transposed() : reduced);
+            return target;
+        }
+    }
+    return {};
+}
+
 QString tooLarge(const QSize& size)
 {
     return BatchEngine::tr("too large: %1 x %2").arg(size.width()).arg(size.height());
@@ -92,65 +120,131 @@ BatchEngine::BatchEngine(const QStringList& sources, const BatchOperations& oper
     , extension("." + settings.extension())
     , options(options)
     , operations(prepare(operations))
-    , buffers(ImageBuffers::create(2))
 {
     for (const QString& source : sources) {
         const QStringList forms = pathForms(source);
         for (const QString& form : forms)
             sourcePaths.insert(form);
     }
-    readerPool.setMaxThreadCount(1);
-}
-
-BatchEngine::~BatchEngine()
-{
-    readAhead.waitForFinished();
+    nameAll();
 }
 
 void BatchEngine::setCounters(int oddNext, int evenNext)
 {
     odd = oddNext;
     even = evenNext;
+    nameAll();
 }
 
-BatchEngine::Result BatchEngine::step(int index)
+void BatchEngine::nameAll()
 {
-    Photo photo = process(index);
-    if (photo.image.isNull())
-        return {{}, {}, photo.error};
-    const QString name = OutputNaming::outputName(sources.at(index), index, settings.rename,
-                                                  settings.newName, settings.numbers, odd, even);
-    if (!OutputNaming::staysInFolder(name))
-        return {
-            {}, {}, tr("cannot write: the name \"%1\" would leave the output folder").arg(name)};
-    QString target = destination + name + extension;
-    for (int copy = 2; options.keepEveryResult && writtenPaths.contains(target); ++copy)
-        target = destination + name + QString(" (%1)").arg(copy) + extension;
-    const WriteResult written = write(photo.image, target, photo.metadata);
-    return {std::move(photo.image), target, written.error, written.note};
+    names.clear();
+    targets.clear();
+    QSet<QString> given;
+    for (int index = 0; index < sources.size(); ++index) {
+        int oddNumber = odd + 2 * index;
+        int evenNumber = even + 2 * index;
+        const QString name =
+            OutputNaming::outputName(sources.at(index), index, settings.rename, settings.newName,
+                                     settings.numbers, oddNumber, evenNumber);
+        names << name;
+        QString target;
+        if (OutputNaming::staysInFolder(name)) {
+            target = destination + name + extension;
+            for (int copy = 2; options.keepEveryResult && given.contains(target); ++copy)
+                target = destination + name + QString(" (%1)").arg(copy) + extension;
+            given.insert(target);
+        }
+        targets << target;
+    }
 }
 
-BatchEngine::Photo BatchEngine::process(int index)
+void BatchEngine::run(const Listener& listener)
 {
-    if (index < 0 || index >= sources.size())
-        return {{}, tr("no photo at position %1").arg(index + 1)};
-    Photo photo;
-    if (index == readAheadIndex)
-        photo = readAhead.result();
-    else
-        photo = load(sources.at(index), options.pixelBudget, {buffers.get()});
-    readAheadIndex = index + 1;
-    readAhead = readAheadIndex < sources.size()
-                    ? QtConcurrent::run(&readerPool, &BatchEngine::load, sources.at(readAheadIndex),
-                                        options.pixelBudget, PhotoDecoding{buffers.get()})
-                    : QFuture<Photo>();
+    QVector<int> every(sources.size());
+    std::iota(every.begin(), every.end(), 0);
+    run(listener, every);
+}
+
+void BatchEngine::run(const Listener& listener, const QVector<int>& order)
+{
+    const int jobs = qMax(1, options.jobs);
+    QThreadPool helpers;
+    helpers.setMaxThreadCount(jobs);
+    const std::shared_ptr<ImageBuffers> buffers = ImageBuffers::create(jobs + 1);
+    std::deque<std::pair<int, QFuture<Photo>>> underWay;
+    int next = 0;
+    int reached = 0;
+    bool stopping = false;
+    const auto startMore = [&] {
+        while (!stopping && next < order.size() && int(underWay.size()) < jobs) {
+            const Next go = listener.next();
+            stopping = go == Next::Stop;
+            if (go != Next::Go)
+                return;
+            const int index = order.at(next++);
+            reached = qMax(reached, index + 1);
+            underWay.emplace_back(index, QtConcurrent::run(&helpers, [this, index, buffers] {
+                                      return readAndApply(index, *buffers);
+                                  }));
+        }
+    };
+    for (;;) {
+        startMore();
+        if (underWay.empty()) {
+            if (stopping || next == order.size())
+                break;
+            QThread::msleep(pausePollMs);
+            continue;
+        }
+        const int index = underWay.front().first;
+        Photo photo = underWay.front().second.result();
+        underWay.pop_front();
+        // The helper that read this photo starts the next one while it is written.
+        startMore();
+        listener.finished(index, writeOut(index, std::move(photo)));
+    }
+    setCounters(odd + 2 * reached, even + 2 * reached);
+}
+
+BatchEngine::Photo BatchEngine::readAndApply(int index, ImageBuffers& buffers) const
+{
+    PhotoDecoding decoding{&buffers};
+    const bool shrinksFirst =
+        !operations.isEmpty() && operations.first().name == QLatin1String(RSZOperation::Name);
+    if (options.fastReading && shrinksFirst)
+        decoding.shrinksTo = operations.first().resultSize;
+    Photo photo = load(sources.at(index), options.pixelBudget, decoding);
     if (photo.image.isNull())
         return photo;
-    Photo result = apply(std::move(photo.image), operations, options.pixelBudget);
-    // Exiv2 keeps to the thread that drives the run: on the reader thread its thread-local
-    // state outlived the thread, which leak checkers cannot walk.
-    result.metadata = PhotoMetadata::read(sources.at(index));
-    return result;
+    if (photo.shrinkTo.isEmpty())
+        return apply(std::move(photo.image), operations, options.pixelBudget);
+    // The reduced photo is brought to the size the first operation gives the whole photo.
+    RSZValues exactSize;
+    exactSize.mode = 2;
+    exactSize.width = photo.shrinkTo.width();
+    exactSize.height = photo.shrinkTo.height();
+    QVector<PreparedOperation> finishing = operations;
+    finishing.first().apply = [exactSize](QImage image) {
+        return RSZOperation::run(std::move(image), exactSize);
+    };
+    return apply(std::move(photo.image), finishing, options.pixelBudget);
+}
+
+BatchEngine::Result BatchEngine::writeOut(int index, Photo photo)
+{
+    if (photo.image.isNull())
+        return {{}, {}, photo.error};
+    const QString& target = targets.at(index);
+    if (target.isEmpty())
+        return {
+            {},
+            {},
+            tr("cannot write: the name \"%1\" would leave the output folder").arg(names.at(index))};
+    // Exiv2 keeps to the thread that drives the run: on a helper thread its thread-local state
+    // outlived the thread, which leak checkers cannot walk.
+    const WriteResult written = write(photo.image, target, PhotoMetadata::read(sources.at(index)));
+    return {std::move(photo.image), target, written.error, written.note};
 }
 
 BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& path,
@@ -253,8 +347,13 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget,
     const QSize size = reader.size();
     if (size.isValid() && qint64(size.width()) * size.height() > pixelBudget)
         return {{}, tooLarge(size)};
+    const QSize shrinkTo = decoding.shrinksTo && reader.format() == "jpeg"
+                               ? shrunkDecoding(reader, size, decoding.shrinksTo)
+                               : QSize();
+    const QSize decodedSize = shrinkTo.isEmpty() ? size : reader.scaledSize();
     // Decoded into the memory offered when the reader makes a 32-bit image of that very size.
-    QImage image = decoding.buffers ? decoding.buffers->take(size, reader.imageFormat()) : QImage();
+    QImage image =
+        decoding.buffers ? decoding.buffers->take(decodedSize, reader.imageFormat()) : QImage();
     const ThreadMessages decoder;
     if (!reader.read(&image))
         image = QImage();
@@ -267,8 +366,8 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget,
     // RGB32 words are 0xffRRGGBB already: naming them ARGB32 is the conversion, without a pass
     // over the pixels (or, for memory the image does not own, a copy).
     if (image.format() == QImage::Format_RGB32 && image.reinterpretAsFormat(QImage::Format_ARGB32))
-        return {std::move(image), {}};
-    return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}};
+        return {std::move(image), {}, {}, shrinkTo};
+    return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}, {}, shrinkTo};
 }
 
 QString BatchEngine::createRunFolder(const QString& base, const QDateTime& start, bool exclusive)

@@ -3,6 +3,8 @@
 #include "appdata.h"
 #include "outputnaming.h"
 
+#include <QThread>
+
 namespace {
 
 const char keyOpenLocation[] = "KeyOpenLocation";
@@ -18,6 +20,8 @@ const char keyCopyright[] = "KeyCopyright";
 const char keyBackground[] = "KeyBackground";
 const char keyShortExtensions[] = "KeyShortExtensions";
 const char keyMaxKilobytes[] = "KeyMaxKilobytes";
+const char keyJobs[] = "KeyJobs";
+const char keyFastReading[] = "KeyFastReading";
 
 // A stored number, or the default when the stored text is not one.
 int readInt(const char* key, int defaultValue)
@@ -52,6 +56,9 @@ OutputSettings OutputSettings::load()
     settings.shortExtensions =
         OrkTools::AppData::readSetting(keyShortExtensions, defaults.shortExtensions).toBool();
     settings.maxKilobytes = qMax(0, readInt(keyMaxKilobytes, defaults.maxKilobytes));
+    settings.jobs = qBound(0, readInt(keyJobs, defaults.jobs), maxJobs);
+    settings.fastReading =
+        OrkTools::AppData::readSetting(keyFastReading, defaults.fastReading).toBool();
     return settings;
 }
 
@@ -70,6 +77,8 @@ void OutputSettings::save() const
     OrkTools::AppData::writeSetting(keyBackground, background.name());
     OrkTools::AppData::writeSetting(keyShortExtensions, shortExtensions);
     OrkTools::AppData::writeSetting(keyMaxKilobytes, maxKilobytes);
+    OrkTools::AppData::writeSetting(keyJobs, jobs);
+    OrkTools::AppData::writeSetting(keyFastReading, fastReading);
 }
 
 QString OutputSettings::extension() const
@@ -95,4 +104,9 @@ qint64 OutputSettings::pixelBudget() const
 int OutputSettings::writerQuality() const
 {
     return format == "JPEG" ? quality : -1;
+}
+
+int OutputSettings::jobCount() const
+{
+    return jobs > 0 ? jobs : qMax(1, QThread::idealThreadCount());
 }

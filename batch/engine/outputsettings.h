@@ -21,6 +21,8 @@ struct OutputSettings
     QColor background = Qt::white;
     bool shortExtensions = false; // "KeyShortExtensions": ".jpg" and ".tif" instead of the names
     int maxKilobytes = 0;         // "KeyMaxKilobytes": the largest JPEG file, 0 for no limit
+    int jobs = 0;                 // "KeyJobs": photos worked on at once, 0 for one per core
+    bool fastReading = false;     // "KeyFastReading": decode shrunk where the flow shrinks first
 
     // The stored values; a key that is missing or unreadable gives the default above.
     static OutputSettings load();
@@ -39,4 +41,8 @@ struct OutputSettings
     QString extension() const;
     // Whether the format keeps transparency; the others get photos laid on the background.
     bool keepsTransparency() const;
+    // jobs, or the number of cores for 0.
+    int jobCount() const;
+    // The most photos worked on at once that a setting or the command line may ask for.
+    static constexpr int maxJobs = 64;
 };

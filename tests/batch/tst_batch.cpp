@@ -15,6 +15,7 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 
@@ -210,27 +211,50 @@ private slots:
         QCOMPARE(fileNames(out), QString("a.jpeg"));
     }
 
-    // The first photo's progress pauses the run; a stop then ends the pause and the run.
-    void stopWhilePaused()
+    void pauseWithPhotosInFlight_data()
     {
+        addColumns<bool>("stop");
+        addRow("then stop", true);
+        addRow("then resume", false);
+    }
+
+    // Two photos at once: the first photo's progress pauses the run while the next two are under
+    // way. They are finished and written, nothing more is started until the pause ends; a stop
+    // ends the pause and the run.
+    void pauseWithPhotosInFlight()
+    {
+        QFETCH(bool, stop);
         QStringList photos;
-        for (int i = 0; i < 5; ++i)
+        for (int i = 0; i < 6; ++i)
             photos << photo(QString("p%1.png").arg(i));
         auto* worker = new BatchWorker;
         BatchThread thread(worker);
         worker->moveToThread(&thread);
         connect(
-            worker, &BatchWorker::updateInfo, worker, [worker] { worker->setPaused(true); },
+            worker, &BatchWorker::updateInfo, worker,
+            [worker](const QImage&, int nCur) {
+                if (nCur == 0)
+                    worker->setPaused(true);
+            },
             Qt::DirectConnection);
         // The run's end quits the thread, so that a run that never ends fails the wait.
         connect(worker, &BatchWorker::finished, &thread, &QThread::quit, Qt::DirectConnection);
-        worker->prepare(OutputSettings(), out, urls(photos), {});
+        OutputSettings settings;
+        settings.jobs = 2;
+        worker->prepare(settings, out, urls(photos), {});
         thread.start();
-        QTRY_VERIFY(QFile::exists(out + "p0.jpeg"));
-        worker->requestStop();
+        QTRY_COMPARE(fileNames(out), QString("p0.jpeg p1.jpeg p2.jpeg"));
+        // Longer than the pause's polling: nothing more is started.
+        QTest::qWait(700);
+        QCOMPARE(fileNames(out), QString("p0.jpeg p1.jpeg p2.jpeg"));
+        if (stop)
+            worker->requestStop();
+        else
+            worker->setPaused(false);
         QVERIFY(thread.wait(5000));
         delete worker;
-        QCOMPARE(fileNames(out), QString("p0.jpeg"));
+        QCOMPARE(fileNames(out), stop ? QString("p0.jpeg p1.jpeg p2.jpeg")
+                                      : QString("p0.jpeg p1.jpeg p2.jpeg p3.jpeg p4.jpeg p5.jpeg"));
     }
 
     // Escape at once, most likely within the start delay: begun or not, the run ends and the
@@ -361,10 +385,17 @@ private slots:
                  qPrintable(folders.first()));
         const QString folder = OrkTools::AppData::outputBaseFolder() + folders.first() + "/";
         QCOMPARE(fileNames(folder), QString("photo0.jpeg photo1.jpeg photo2.jpeg"));
-        const QStringList expected{"1 of 3: " + photos.at(0), "2 of 3: " + photos.at(1),
-                                   "3 of 3: " + photos.at(2),
-                                   "3 of 3 photos written into " + folder};
-        QCOMPARE(outcome.err.split('\n', Qt::SkipEmptyParts), expected);
+        // A line per photo finished, with the time the rest takes at the pace so far.
+        const QStringList lines = outcome.err.split('\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 4);
+        for (int i = 0; i < 3; ++i) {
+            const QRegularExpression line(
+                QString("^%1 of 3: %2 \\(\\d+ s left, \\d+\\.\\d photos/s\\)$")
+                    .arg(i + 1)
+                    .arg(QRegularExpression::escape(photos.at(i))));
+            QVERIFY2(line.match(lines.at(i)).hasMatch(), qPrintable(lines.at(i)));
+        }
+        QCOMPARE(lines.last(), "3 of 3 photos written into " + folder);
     }
 
     // A stored number that cannot be read gives the default: quality 90, numbers all.
