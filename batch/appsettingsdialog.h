@@ -44,4 +44,6 @@ private:
     QComboBox* metadataCombo = nullptr;
     QLineEdit* artistEdit = nullptr;
     QLineEdit* copyrightEdit = nullptr;
+    QSpinBox* jobsBox = nullptr;
+    QCheckBox* fastReadingBox = nullptr;
 };
