@@ -6,6 +6,7 @@
 #include "threadmessages.h"
 
 #include <QBuffer>
+#include <QColorSpace>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QImageWriter>
@@ -80,6 +81,29 @@ QSize shrunkDecoding(QImageReader& reader, const QSize& size,
         }
     }
     return {};
+}
+
+// A grey photo as ARGB32 words in memory from buffers, as Qt's conversion gives it (pixels and
+// the image's other properties), without the fresh memory as large that the conversion takes.
+QImage greyToWords(const QImage& grey, ImageBuffers& buffers)
+{
+    QImage words = buffers.take(grey.size(), QImage::Format_ARGB32);
+    if (words.isNull())
+        return words;
+    for (int y = 0; y < grey.height(); ++y) {
+        const uchar* from = grey.constScanLine(y);
+        auto* to = reinterpret_cast<QRgb*>(words.scanLine(y));
+        std::transform(from, from + grey.width(), to, [](uchar g) { return qRgb(g, g, g); });
+    }
+    words.setDotsPerMeterX(grey.dotsPerMeterX());
+    words.setDotsPerMeterY(grey.dotsPerMeterY());
+    words.setOffset(grey.offset());
+    words.setDevicePixelRatio(grey.devicePixelRatio());
+    words.setColorSpace(grey.colorSpace());
+    const QStringList keys = grey.textKeys();
+    for (const QString& key : keys)
+        words.setText(key, grey.text(key));
+    return words;
 }
 
 QString tooLarge(const QSize& size)
@@ -367,6 +391,11 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget,
     // over the pixels (or, for memory the image does not own, a copy).
     if (image.format() == QImage::Format_RGB32 && image.reinterpretAsFormat(QImage::Format_ARGB32))
         return {std::move(image), {}, {}, shrinkTo};
+    if (image.format() == QImage::Format_Grayscale8 && decoding.buffers) {
+        QImage words = greyToWords(image, *decoding.buffers);
+        if (!words.isNull())
+            return {std::move(words), {}, {}, shrinkTo};
+    }
     return {std::move(image).convertToFormat(QImage::Format_ARGB32), {}, {}, shrinkTo};
 }
 
