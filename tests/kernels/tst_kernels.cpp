@@ -399,6 +399,9 @@ private slots:
         const QImage expected =
             image.scaled(101, 3, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         QCOMPARE_IMAGES(resizeImage(image, 101, 3, 2, false), expected);
+        // To its own size it comes back as it is, format and all.
+        QImage same = TestUtils::filledImage(8, 4, 0x80402010);
+        QCOMPARE(resizeImage(same, 8, 4, 2, false).format(), QImage::Format_ARGB32);
     }
 
     void watermarkPlacement_data()
