@@ -266,6 +266,11 @@ private slots:
         addRow("quality in words", "--quality high PHOTO", 2, "the quality must be 1 to 100+");
         addRow("unknown numbers", "--numbers prime PHOTO", 2,
                "the numbers must be all, odd or even+");
+        addRow("no jobs", "--jobs 0 PHOTO", 2, "the jobs must be a whole number from 1 to 64+");
+        addRow("shard past its count", "--shard 2/2 PHOTO", 2,
+               "the shard must be K/N with N at least 1 and K from 0 to N-1+");
+        addRow("resume without output", "--resume PHOTO", 2,
+               "--resume needs the --output folder to resume in+");
         addRow("unknown metadata", "--metadata none PHOTO", 2,
                "the metadata must be keep, strip-location or strip+");
         addRow("no photos", "--format PNG", 2, "no photos given+");
