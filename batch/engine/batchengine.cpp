@@ -252,6 +252,7 @@ BatchEngine::Photo BatchEngine::readAndApply(int index, ImageBuffers& buffers) c
     finishing.first().apply = [exactSize](QImage image) {
         return RSZOperation::run(std::move(image), exactSize);
     };
+    finishing.first().resultSize = [target = photo.shrinkTo](const QSize&) { return target; };
     return apply(std::move(photo.image), finishing, options.pixelBudget);
 }
 
