@@ -9,6 +9,7 @@
 #include "outputsettings.h"
 #include "pelodineconfig.h"
 #include "photofiles.h"
+#include "runclock.h"
 
 #include <QCommandLineParser>
 #include <QDateTime>
@@ -20,6 +21,7 @@
 
 #include <climits>
 #include <fcntl.h>
+#include <malloc.h>
 #include <unistd.h>
 
 namespace {
@@ -45,6 +47,10 @@ struct Job
     bool lenient = false;
     // The sheet to write instead of the results, when asked for.
     QString contactSheet;
+    bool resume = false;
+    // This copy's share of the photos: the positions that leave shard when divided by shards.
+    int shard = 0;
+    int shards = 1;
 };
 
 // The tool's own words go to the standard error as it was at start; what the libraries
@@ -182,6 +188,26 @@ void addOptions(QCommandLineParser& parser)
                                              "its name and the size the run would write. The "
                                              "format follows FILE's extension."),
          "FILE"},
+        {"jobs",
+         QCoreApplication::translate("main", "Work on N photos at once. Default: one per core "
+                                             "(%1).")
+             .arg(OutputSettings().jobCount()),
+         "N"},
+        {"fast",
+         QCoreApplication::translate("main", "Fast reading: when the flow begins by shrinking "
+                                             "the photo to half or less, read a JPEG at 1/2, 1/4 "
+                                             "or 1/8 of its size and finish the resize from "
+                                             "there. The results have the same size, a little "
+                                             "less sharp.")},
+        {"resume",
+         QCoreApplication::translate("main", "Skip every photo whose result is already in the "
+                                             "--output folder, as after a run that was stopped.")},
+        {"shard",
+         QCoreApplication::translate("main", "Take only the photos whose position (from 0) leaves "
+                                             "K when divided by N, named and numbered as in the "
+                                             "whole list: N copies with K = 0 .. N-1 share the "
+                                             "work."),
+         "K/N"},
     });
     parser.addPositionalArgument(
         "PHOTO|FOLDER",
@@ -221,6 +247,28 @@ bool wholeNumber(const QCommandLineParser& parser, const QString& name, int mini
     bool ok = false;
     value = parser.value(name).toInt(&ok);
     return ok && value >= minimum && value <= maximum;
+}
+
+// --resume and --shard.
+QString readShare(const QCommandLineParser& parser, Job& job)
+{
+    job.resume = parser.isSet("resume");
+    if (job.resume && !parser.isSet("output"))
+        return QCoreApplication::translate("main", "--resume needs the --output folder to "
+                                                   "resume in");
+    if (!parser.isSet("shard"))
+        return {};
+    const QStringList parts = parser.value("shard").split('/');
+    bool shardOk = false;
+    bool shardsOk = false;
+    if (parts.size() == 2) {
+        job.shard = parts.at(0).toInt(&shardOk);
+        job.shards = parts.at(1).toInt(&shardsOk);
+    }
+    if (!shardOk || !shardsOk || job.shards < 1 || job.shard < 0 || job.shard >= job.shards)
+        return QCoreApplication::translate("main", "the shard must be K/N with N at least 1 "
+                                                   "and K from 0 to N-1");
+    return {};
 }
 
 // The output settings' defaults, or the window's stored settings when asked for, with the
@@ -294,6 +342,12 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
         settings.artist = parser.value("artist");
     if (parser.isSet("copyright"))
         settings.copyright = parser.value("copyright");
+    if (parser.isSet("jobs") &&
+        !wholeNumber(parser, "jobs", 1, OutputSettings::maxJobs, settings.jobs))
+        return QCoreApplication::translate("main", "the jobs must be a whole number from 1 to %1")
+            .arg(OutputSettings::maxJobs);
+    if (parser.isSet("fast"))
+        settings.fastReading = true;
     job.overwrite = parser.isSet("overwrite");
     job.lenient = parser.isSet("lenient");
     if (parser.isSet("contact-sheet")) {
@@ -306,7 +360,7 @@ QString readSettings(const QCommandLineParser& parser, Job& job)
                                                        "the extension of an output format: %1")
                 .arg(OutputSettings::formats().join(", ").toLower());
     }
-    return {};
+    return readShare(parser, job);
 }
 
 QString findPhotos(const QStringList& arguments, Job& job)
@@ -381,39 +435,75 @@ bool acceptFlow(const Job& job)
     return false;
 }
 
+// The positions this copy takes; with --resume those whose result is there are left out and
+// counted in skipped.
+// A heading, then each line indented below it.
+void printList(const QString& heading, const QStringList& lines)
+{
+    err() << heading << Qt::endl;
+    for (const QString& line : lines)
+        err() << "  " << line << Qt::endl;
+}
+
+QVector<int> positionsToRun(const Job& job, const BatchEngine& engine, int& skipped)
+{
+    QVector<int> positions;
+    skipped = 0;
+    for (int index = job.shard; index < engine.count(); index += job.shards) {
+        if (job.resume && QFileInfo::exists(engine.target(index)))
+            ++skipped;
+        else
+            positions << index;
+    }
+    return positions;
+}
+
 int run(const Job& job)
 {
     if (!acceptFlow(job))
         return someFailed;
     BatchEngine engine(job.photos, job.operations, job.settings, job.destination,
-                       {true, job.overwrite, job.settings.pixelBudget()});
+                       {true, job.overwrite, job.settings.pixelBudget(), job.settings.jobCount(),
+                        job.settings.fastReading});
     engine.setInputFolders(job.inputFolders);
+    int skipped = 0;
+    const QVector<int> positions = positionsToRun(job, engine, skipped);
+    if (skipped > 0 && !job.quiet)
+        err() << QCoreApplication::translate("main",
+                                             "%n photo(s) skipped: their results are "
+                                             "already in %1",
+                                             nullptr, skipped)
+                     .arg(job.destination)
+              << Qt::endl;
     QStringList failures;
     QStringList notes;
-    const int count = engine.count();
-    for (int i = 0; i < count; ++i) {
-        const QString& source = job.photos.at(i);
+    const int count = positions.size();
+    RunClock clock(count);
+    const auto report = [&](int index, const BatchEngine::Result& result) {
+        clock.photoFinished();
+        const QString& source = job.photos.at(index);
         if (!job.quiet)
-            err() << i + 1 << " of " << count << ": " << source << Qt::endl;
-        const BatchEngine::Result result = engine.step(i);
+            err() << clock.finished() << " of " << count << ": " << source << " ("
+                  << clock.timeLeftText() << ", "
+                  << QCoreApplication::translate("main", "%1 photos/s")
+                         .arg(clock.photosPerSecond(), 0, 'f', 1)
+                  << ")" << Qt::endl;
         if (!result.written())
             failures << source + ": " + result.error;
         else if (!result.note.isEmpty())
             notes << source + ": " + result.note;
-    }
+    };
+    engine.run({[] { return BatchEngine::Next::Go; }, report}, positions);
     if (!job.quiet)
         err() << QCoreApplication::translate("main", "%1 of %2 photos written into %3")
                      .arg(count - failures.size())
                      .arg(count)
                      .arg(job.destination)
               << Qt::endl;
-    if (!failures.isEmpty()) {
-        err() << QCoreApplication::translate("main", "%n photo(s) failed:", nullptr,
-                                             failures.size())
-              << Qt::endl;
-        for (const QString& failure : qAsConst(failures))
-            err() << "  " << failure << Qt::endl;
-    }
+    if (!failures.isEmpty())
+        printList(
+            QCoreApplication::translate("main", "%n photo(s) failed:", nullptr, failures.size()),
+            failures);
     for (const QString& note : qAsConst(notes))
         err() << "  " << note << Qt::endl;
     return failures.isEmpty() ? allWritten : someFailed;
@@ -454,13 +544,10 @@ int writeContactSheet(const Job& job)
                      .arg(count)
                      .arg(job.contactSheet)
               << Qt::endl;
-    if (!failures.isEmpty()) {
-        err() << QCoreApplication::translate("main", "%n photo(s) would fail:", nullptr,
-                                             failures.size())
-              << Qt::endl;
-        for (const QString& failure : qAsConst(failures))
-            err() << "  " << failure << Qt::endl;
-    }
+    if (!failures.isEmpty())
+        printList(QCoreApplication::translate("main", "%n photo(s) would fail:", nullptr,
+                                              failures.size()),
+                  failures);
     return failures.isEmpty() ? allWritten : someFailed;
 }
 
@@ -468,6 +555,9 @@ int writeContactSheet(const Job& job)
 
 int main(int argc, char* argv[])
 {
+    // One heap for every thread: the helpers' large images, freed, are taken up again by the
+    // next photo on whichever thread instead of each thread keeping its own.
+    mallopt(M_ARENA_MAX, 1);
     // Only this tool's own words reach the terminal: Qt's notes about the environment are not
     // for the user, and a decoder's complaint is part of its photo's report.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});

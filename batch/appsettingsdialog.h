@@ -49,4 +49,6 @@ private:
     QLineEdit* saveIntoEdit = nullptr;
     QCheckBox* keepFoldersBox = nullptr;
     QCheckBox* convertToSrgbBox = nullptr;
+    QSpinBox* jobsBox = nullptr;
+    QCheckBox* fastReadingBox = nullptr;
 };

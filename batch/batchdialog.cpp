@@ -33,6 +33,9 @@ BatchDialog::BatchDialog(QWidget* parent)
     previewLabel->setMinimumSize(400, 400);
     previewLabel->setAlignment(Qt::AlignCenter);
     infoLabel = new QLabel;
+    detailsLabel = new QLabel;
+    detailsLabel->setObjectName("BatchDetailsLabel");
+    detailsLabel->setAlignment(Qt::AlignCenter);
     progressBar = new QProgressBar;
     progressBar->setRange(0, 100);
     progressBar->setMaximumHeight(32);
@@ -49,10 +52,12 @@ BatchDialog::BatchDialog(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(previewLabel);
     layout->addWidget(infoLabel);
+    layout->addWidget(detailsLabel);
     layout->addWidget(progressBar);
     layout->addLayout(buttons);
 
     connect(worker, &BatchWorker::updateInfo, this, &BatchDialog::slotUpdateInfo);
+    connect(worker, &BatchWorker::progressDetails, this, &BatchDialog::slotProgressDetails);
     connect(worker, &BatchWorker::finished, this, &BatchDialog::slotAccept);
     connect(pauseButton, &QPushButton::clicked, this, &BatchDialog::slotPause);
     connect(stopButton, &QPushButton::clicked, this, &BatchDialog::slotStop);
@@ -117,11 +122,30 @@ void BatchDialog::slotAccept()
 void BatchDialog::slotUpdateInfo(const QImage& image, int nCur, int nCount)
 {
     infoLabel->clear();
-    previewLabel->setPixmap(QPixmap::fromImage(
-        image.scaled(previewLabel->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+    preview = image;
+    // Queued behind the results already waiting, so that only the last of them is scaled.
+    if (!previewPending) {
+        previewPending = true;
+        QMetaObject::invokeMethod(this, &BatchDialog::showPreview, Qt::QueuedConnection);
+    }
     progressBar->setValue(nCount > 0 ? nCur * 100 / nCount : 0);
     infoLabel->setText(
         QString("<CENTER><H2>%1 %2 %3</H2></CENTER>").arg(nCur + 1).arg(tr("of")).arg(nCount));
+}
+
+void BatchDialog::slotProgressDetails(const QString& fileName, const QString& timeLeft)
+{
+    detailsLabel->setText(fileName + "\n" + timeLeft);
+}
+
+void BatchDialog::showPreview()
+{
+    previewPending = false;
+    if (preview.isNull())
+        return;
+    previewLabel->setPixmap(QPixmap::fromImage(
+        preview.scaled(previewLabel->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+    preview = QImage();
 }
 
 void BatchDialog::showEvent(QShowEvent* event)
@@ -136,5 +160,7 @@ void BatchDialog::resetView()
     pauseButton->setText(tr("Pause"));
     progressBar->setValue(0);
     previewLabel->clear();
+    preview = QImage();
+    detailsLabel->clear();
     infoLabel->setText(tr("<CENTER><H1>Please, wait...</H1></CENTER>"));
 }

@@ -47,18 +47,25 @@ public slots:
     void slotProgressChanged(int value);
     void slotAccept();
     void slotUpdateInfo(const QImage& image, int nCur, int nCount);
+    // Below the count: the photo just finished and the time the run still takes.
+    void slotProgressDetails(const QString& fileName, const QString& timeLeft);
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
     void resetView();
+    // The latest result scaled into the preview; results that came faster are passed over.
+    void showPreview();
 
     BatchWorker* worker = nullptr;
     BatchThread* thread = nullptr;
     QString destination;
     QLabel* previewLabel = nullptr;
     QLabel* infoLabel = nullptr;
+    QLabel* detailsLabel = nullptr;
+    QImage preview;
+    bool previewPending = false;
     QProgressBar* progressBar = nullptr;
     QPushButton* pauseButton = nullptr;
     QPushButton* stopButton = nullptr;

@@ -2,14 +2,9 @@
 
 #include "batchengine.h"
 #include "outputsettings.h"
+#include "runclock.h"
 
-#include <QThread>
-
-namespace {
-
-const int pausePollMs = 500;
-
-} // namespace
+#include <QFileInfo>
 
 BatchWorker::BatchWorker(QObject* parent)
     : QObject(parent)
@@ -38,31 +33,30 @@ void BatchWorker::slotDoWork()
     // user's choosing what it finds there stays, and the result takes a free name beside it.
     const bool ownFolder = settings.saveInto.isEmpty();
     BatchEngine engine(paths, operations, settings, destination,
-                       {false, ownFolder, settings.pixelBudget(), !ownFolder});
+                       {false, ownFolder, settings.pixelBudget(), settings.jobCount(),
+                        settings.fastReading, !ownFolder});
     engine.setInputFolders(folders);
     engine.setCounters(oddCounter, evenCounter);
     const int count = paths.size();
-    for (int i = 0; i < count; ++i) {
-        waitWhilePaused();
+    RunClock clock(count);
+    const auto next = [this] {
         if (stopRequested)
-            break;
-        const BatchEngine::Result result = engine.step(i);
+            return BatchEngine::Next::Stop;
+        return paused ? BatchEngine::Next::Pause : BatchEngine::Next::Go;
+    };
+    const auto report = [&](int index, const BatchEngine::Result& result) {
+        clock.photoFinished();
         if (!result.image.isNull())
-            emit updateInfo(result.image, i, count);
+            emit updateInfo(result.image, clock.finished() - 1, count);
+        emit progressDetails(QFileInfo(paths.at(index)).fileName(), clock.timeLeftText());
         if (!result.note.isEmpty())
-            qWarning().noquote() << "Batch:" << paths.at(i) << "-" << result.note;
+            qWarning().noquote() << "Batch:" << paths.at(index) << "-" << result.note;
         if (!result.written())
-            qWarning().noquote() << "Batch: not written:" << paths.at(i) << "-" << result.error;
-        emit photoDone(paths.at(i), result.error);
-    }
+            qWarning().noquote() << "Batch: not written:" << paths.at(index) << "-" << result.error;
+        emit photoDone(paths.at(index), result.error);
+    };
+    engine.run({next, report});
     oddCounter = engine.oddCounter();
     evenCounter = engine.evenCounter();
     emit finished();
-}
-
-// A stop also ends the wait, within one polling interval.
-void BatchWorker::waitWhilePaused() const
-{
-    while (paused && !stopRequested)
-        QThread::msleep(pausePollMs);
 }

@@ -29,23 +29,24 @@ public:
                  const QList<QUrl>& photos, const BatchOperations& flowOperations,
                  const QHash<QString, QString>& inputFolders = {});
 
-    // Written by the interface thread, read between photos.
+    // Written by the interface thread, read between photos; photos under way are finished.
     void setPaused(bool pause) { paused = pause; }
     void requestStop() { stopRequested = true; }
 
 signals:
     void finished();
-    // The processed photo at nCur (0-based) of nCount, once it is written (or failed to be).
+    // A processed photo once it is written (or failed to be), nCur + 1 photos of nCount being
+    // finished then.
     void updateInfo(const QImage& image, int nCur, int nCount);
     // Each photo the run reached: error is empty when its result was written, else the reason.
     void photoDone(const QString& source, const QString& error);
+    // The file name of the photo just finished and the time the run still takes ("12 s left").
+    void progressDetails(const QString& fileName, const QString& timeLeft);
 
 public slots:
     void slotDoWork();
 
 private:
-    void waitWhilePaused() const;
-
     OutputSettings settings;
     QString destination = ".";
     int oddCounter = 1;

@@ -230,17 +230,22 @@ int main(int argc, char* argv[])
     out << "| one after the other | | " << QString::number(total / photos.size(), 'f', 1) << " | "
         << QString::number(1000 * photos.size() / total, 'f', 2) << " photos/s |\n\n";
 
-    // The engine as the batch runs it: the next photo is read while this one is processed.
-    const double engineMs = milliseconds([&] {
-        OutputSettings settings;
-        settings.format = format;
-        settings.quality = quality;
-        BatchEngine engine(photos, operations, settings, target.path() + "/", {});
-        for (int i = 0; i < engine.count(); ++i)
-            engine.step(i);
-    });
-    out << "engine run (reading one photo ahead): " << QString::number(engineMs / 1000, 'f', 2)
-        << " s, " << QString::number(1000 * photos.size() / engineMs, 'f', 2) << " photos/s"
-        << Qt::endl;
+    // The engine as the batch runs it: photos read and run on helper threads while the one
+    // before them is written, with one helper and with one per core.
+    for (const int jobs : {1, QThread::idealThreadCount()}) {
+        const double engineMs = milliseconds([&] {
+            OutputSettings settings;
+            settings.format = format;
+            settings.quality = quality;
+            BatchEngine::Options options;
+            options.jobs = jobs;
+            BatchEngine engine(photos, operations, settings, target.path() + "/", options);
+            engine.run(
+                {[] { return BatchEngine::Next::Go; }, [](int, const BatchEngine::Result&) {}});
+        });
+        out << "engine run, " << jobs << " job(s): " << QString::number(engineMs / 1000, 'f', 2)
+            << " s, " << QString::number(1000 * photos.size() / engineMs, 'f', 2) << " photos/s"
+            << Qt::endl;
+    }
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include "colorprofiles.h"
 #include "operationcatalogue.h"
+#include "operations.h"
 #include "outputnaming.h"
 #include "photofiles.h"
 #include "threadmessages.h"
@@ -13,11 +14,15 @@
 #include <QImageWriter>
 #include <QPainter>
 #include <QSaveFile>
+#include <QThread>
+#include <QThreadPool>
 #include <QtConcurrent>
 
 #include <algorithm>
 #include <cerrno>
+#include <deque>
 #include <functional>
+#include <numeric>
 #include <sys/stat.h>
 #include <sys/types.h>
 
@@ -39,7 +44,13 @@ QStringList pathForms(const QString& path)
 // shows the background chosen rather than whatever colour the clear pixels hold.
 QImage laidOn(const QImage& image, const QColor& background)
 {
-    const QImage words = image.convertToFormat(QImage::Format_ARGB32);
+    if (!image.hasAlphaChannel())
+        return image;
+    // Both 32-bit formats with alpha keep it in the word's top byte, so they are looked at as
+    // they are; an opaque photo then costs no copy.
+    const bool alphaWords = image.format() == QImage::Format_ARGB32 ||
+                            image.format() == QImage::Format_ARGB32_Premultiplied;
+    const QImage words = alphaWords ? image : image.convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < words.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(words.constScanLine(y));
         if (std::all_of(row, row + words.width(), [](QRgb pixel) { return qAlpha(pixel) == 255; }))
@@ -47,10 +58,56 @@ QImage laidOn(const QImage& image, const QColor& background)
         QImage result(words.size(), QImage::Format_RGB32);
         result.setColorSpace(image.colorSpace());
         result.fill(background);
-        QPainter(&result).drawImage(0, 0, words);
+        QPainter(&result).drawImage(0, 0, image.convertToFormat(QImage::Format_ARGB32));
         return result;
     }
     return image;
+}
+
+const int pausePollMs = 500;
+
+// Sets the reader to decode at the smallest of 1/8, 1/4 and 1/2 of size (as stored) that is
+// at least as large as what shrinksTo makes of the upright photo, and returns that; an empty
+// size, and the reader left as it is, when even half would be too small.
+QSize shrunkDecoding(QImageReader& reader, const QSize& size,
+                     const std::function<QSize(const QSize&)>& shrinksTo)
+{
+    const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QSize upright = turned ? size.transposed() : size;
+    const QSize target = shrinksTo(upright);
+    if (target.isEmpty())
+        return {};
+    for (const int factor : {8, 4, 2}) {
+        const QSize reduced(upright.width() / factor, upright.height() / factor);
+        if (reduced.width() >= target.width() && reduced.height() >= target.height()) {
+            reader.setScaledSize(turned ? reduced.transposed() : reduced);
+            return target;
+        }
+    }
+    return {};
+}
+
+// A grey photo as ARGB32 words in memory from buffers, as Qt's conversion gives it (pixels and
+// the image's other properties), without the fresh memory as large that the conversion takes.
+QImage greyToWords(const QImage& grey, ImageBuffers& buffers)
+{
+    QImage words = buffers.take(grey.size(), QImage::Format_ARGB32);
+    if (words.isNull())
+        return words;
+    for (int y = 0; y < grey.height(); ++y) {
+        const uchar* from = grey.constScanLine(y);
+        auto* to = reinterpret_cast<QRgb*>(words.scanLine(y));
+        std::transform(from, from + grey.width(), to, [](uchar g) { return qRgb(g, g, g); });
+    }
+    words.setDotsPerMeterX(grey.dotsPerMeterX());
+    words.setDotsPerMeterY(grey.dotsPerMeterY());
+    words.setOffset(grey.offset());
+    words.setDevicePixelRatio(grey.devicePixelRatio());
+    words.setColorSpace(grey.colorSpace());
+    const QStringList keys = grey.textKeys();
+    for (const QString& key : keys)
+        words.setText(key, grey.text(key));
+    return words;
 }
 
 // Qt's own turn drops the colour space, so the photo is turned here and keeps its profile.
@@ -62,6 +119,20 @@ QImage upright(const QImage& image, QImageIOHandler::Transformations turn)
         turned = turned.transformed(QTransform().rotate(90));
     turned.setColorSpace(image.colorSpace());
     return turned;
+}
+
+// The photo as ARGB32 words. RGB32 words are 0xffRRGGBB already: naming them ARGB32 is the
+// conversion, without a pass over the pixels (or, for memory the image does not own, a copy).
+QImage asWords(QImage image, ImageBuffers* buffers)
+{
+    if (image.format() == QImage::Format_RGB32 && image.reinterpretAsFormat(QImage::Format_ARGB32))
+        return image;
+    if (image.format() == QImage::Format_Grayscale8 && buffers) {
+        QImage words = greyToWords(image, *buffers);
+        if (!words.isNull())
+            return words;
+    }
+    return std::move(image).convertToFormat(QImage::Format_ARGB32);
 }
 
 QString tooLarge(const QSize& size)
@@ -136,60 +207,68 @@ BatchEngine::BatchEngine(const QStringList& sources, const BatchOperations& oper
         for (const QString& form : forms)
             sourcePaths.insert(form);
     }
-    readerPool.setMaxThreadCount(1);
-}
-
-BatchEngine::~BatchEngine()
-{
-    readAhead.waitForFinished();
+    nameAll();
 }
 
 void BatchEngine::setCounters(int oddNext, int evenNext)
 {
     odd = oddNext;
     even = evenNext;
-}
-
-BatchEngine::Result BatchEngine::step(int index)
-{
-    Photo photo = process(index);
-    if (photo.image.isNull())
-        return {{}, {}, photo.error};
-    const QString name = OutputNaming::outputName(sources.at(index), index, settings.rename,
-                                                  settings.newName, settings.numbers, odd, even);
-    if (!OutputNaming::staysInFolder(name))
-        return {
-            {}, {}, tr("cannot write: the name \"%1\" would leave the output folder").arg(name)};
-    QString error;
-    const QString folder = targetFolder(sources.at(index), error);
-    if (folder.isEmpty())
-        return {{}, {}, error};
-    QString target = folder + name + extension;
-    for (int copy = 2; isTaken(target); ++copy)
-        target = folder + name + QString(" (%1)").arg(copy) + extension;
-    const WriteResult written = write(photo.image, target, photo.metadata);
-    return {std::move(photo.image), target, written.error, written.note};
+    nameAll();
 }
 
 void BatchEngine::setInputFolders(const QHash<QString, QString>& folderOfSource)
 {
     inputFolders = folderOfSource;
+    nameAll();
 }
 
-QString BatchEngine::targetFolder(const QString& source, QString& error) const
+void BatchEngine::nameAll()
+{
+    names.clear();
+    targets.clear();
+    targetErrors.clear();
+    QSet<QString> given;
+    for (int index = 0; index < sources.size(); ++index) {
+        int oddNumber = odd + 2 * index;
+        int evenNumber = even + 2 * index;
+        const QString name =
+            OutputNaming::outputName(sources.at(index), index, settings.rename, settings.newName,
+                                     settings.numbers, oddNumber, evenNumber);
+        names << name;
+        QString error;
+        const QString folder = destination + subfolderOf(sources.at(index), error);
+        QString target;
+        if (OutputNaming::staysInFolder(name) && error.isEmpty()) {
+            target = folder + name + extension;
+            for (int copy = 2; isTaken(target, given); ++copy)
+                target = folder + name + QString(" (%1)").arg(copy) + extension;
+            given.insert(target);
+        }
+        targets << target;
+        targetErrors << error;
+    }
+}
+
+QString BatchEngine::subfolderOf(const QString& source, QString& error) const
 {
     const QString root = inputFolders.value(source);
     if (!settings.keepFolders || root.isEmpty())
-        return destination;
+        return {};
     const QString relative = QDir(root).relativeFilePath(QFileInfo(source).absolutePath());
     if (relative == ".")
-        return destination;
+        return {};
     if (relative == ".." || relative.startsWith("../") || QDir::isAbsolutePath(relative)) {
         error = tr("cannot write: the photo is not inside %1").arg(root);
         return {};
     }
+    return relative + "/";
+}
+
+bool BatchEngine::makeSubfolder(const QString& subfolder, QString& error) const
+{
     QString folder = destination;
-    const QStringList parts = relative.split('/');
+    const QStringList parts = subfolder.split('/', Qt::SkipEmptyParts);
     for (const QString& part : parts) {
         folder += part;
         const QByteArray native = QFile::encodeName(folder);
@@ -199,47 +278,135 @@ QString BatchEngine::targetFolder(const QString& source, QString& error) const
         if (lstat(native.constData(), &info) != 0 || !S_ISDIR(info.st_mode)) {
             error = S_ISLNK(info.st_mode) ? tr("cannot write: %1 is a link").arg(folder)
                                           : tr("cannot create the folder %1").arg(folder);
-            return {};
+            return false;
         }
         folder += "/";
     }
-    return folder;
+    return true;
 }
 
-bool BatchEngine::isTaken(const QString& target) const
+bool BatchEngine::isTaken(const QString& target, const QSet<QString>& given) const
 {
-    if (writtenPaths.contains(target))
+    if (given.contains(target))
         return options.keepEveryResult;
     const QFileInfo info(target);
     return options.besideExisting && (info.exists() || info.isSymLink());
 }
 
-BatchEngine::Photo BatchEngine::process(int index)
+void BatchEngine::run(const Listener& listener)
 {
-    if (index < 0 || index >= sources.size())
-        return {{}, tr("no photo at position %1").arg(index + 1)};
-    Photo photo;
-    if (index == readAheadIndex)
-        photo = readAhead.result();
-    else
-        photo = load(sources.at(index), options.pixelBudget, settings.convertToSrgb);
-    readAheadIndex = index + 1;
-    readAhead = readAheadIndex < sources.size()
-                    ? QtConcurrent::run(&readerPool, &BatchEngine::load, sources.at(readAheadIndex),
-                                        options.pixelBudget, settings.convertToSrgb)
-                    : QFuture<Photo>();
+    QVector<int> every(sources.size());
+    std::iota(every.begin(), every.end(), 0);
+    run(listener, every);
+}
+
+void BatchEngine::run(const Listener& listener, const QVector<int>& order)
+{
+    const int jobs = qMax(1, options.jobs);
+    QThreadPool helpers;
+    helpers.setMaxThreadCount(jobs);
+    const std::shared_ptr<ImageBuffers> buffers = ImageBuffers::create(jobs + 1);
+    struct UnderWay
+    {
+        int index;
+        PhotoMetadata metadata;
+        QFuture<Photo> photo;
+    };
+    std::deque<UnderWay> underWay;
+    int next = 0;
+    int reached = 0;
+    bool stopping = false;
+    const auto startMore = [&] {
+        while (!stopping && next < order.size() && int(underWay.size()) < jobs) {
+            const Next go = listener.next();
+            stopping = go == Next::Stop;
+            if (go != Next::Go)
+                return;
+            const int index = order.at(next++);
+            reached = qMax(reached, index + 1);
+            // Exiv2 keeps to the thread that drives the run: on a helper thread its thread-local
+            // state outlived the thread, which leak checkers cannot walk.
+            const PhotoMetadata metadata = PhotoMetadata::read(sources.at(index));
+            const PhotoContext described =
+                metadata.describe(sources.at(index), index, sources.size());
+            underWay.push_back(
+                {index, metadata, QtConcurrent::run(&helpers, [this, index, buffers, described] {
+                     return readAndApply(index, *buffers, described);
+                 })});
+        }
+    };
+    for (;;) {
+        startMore();
+        if (underWay.empty()) {
+            if (stopping || next == order.size())
+                break;
+            QThread::msleep(pausePollMs);
+            continue;
+        }
+        const int index = underWay.front().index;
+        Photo photo = underWay.front().photo.result();
+        photo.metadata = underWay.front().metadata;
+        underWay.pop_front();
+        // The helper that read this photo starts the next one while it is written.
+        startMore();
+        listener.finished(index, writeOut(index, std::move(photo)));
+    }
+    setCounters(odd + 2 * reached, even + 2 * reached);
+}
+
+BatchEngine::Photo BatchEngine::readAndApply(int index, ImageBuffers& buffers,
+                                             const PhotoContext& photoContext) const
+{
+    PhotoDecoding decoding{&buffers};
+    decoding.toSrgb = settings.convertToSrgb;
+    const bool shrinksFirst =
+        !operations.isEmpty() && operations.first().name == QLatin1String(RSZOperation::Name);
+    if (options.fastReading && shrinksFirst)
+        decoding.shrinksTo = operations.first().resultSize;
+    Photo photo = load(sources.at(index), options.pixelBudget, decoding);
     if (photo.image.isNull())
         return photo;
-    // Exiv2 keeps to the thread that drives the run: on the reader thread its thread-local
-    // state outlived the thread, which leak checkers cannot walk.
-    const PhotoMetadata metadata = PhotoMetadata::read(sources.at(index));
     // The operations make new images without the profile; the result is in the source's colours.
     const QColorSpace colorSpace = photo.image.colorSpace();
-    Photo result = apply(std::move(photo.image), operations, options.pixelBudget,
-                         metadata.describe(sources.at(index), index, sources.size()));
-    result.image.setColorSpace(colorSpace);
-    result.metadata = metadata;
-    return result;
+    const auto inSourceColours = [&colorSpace](Photo result) {
+        result.image.setColorSpace(colorSpace);
+        return result;
+    };
+    if (photo.shrinkTo.isEmpty())
+        return inSourceColours(
+            apply(std::move(photo.image), operations, options.pixelBudget, photoContext));
+    // The reduced photo is brought to the size the first operation gives the whole photo.
+    RSZValues exactSize;
+    exactSize.mode = 2;
+    exactSize.width = photo.shrinkTo.width();
+    exactSize.height = photo.shrinkTo.height();
+    QVector<PreparedOperation> finishing = operations;
+    finishing.first().apply = [exactSize](QImage image, const PhotoContext&) {
+        return RSZOperation::run(std::move(image), exactSize);
+    };
+    finishing.first().resultSize = [target = photo.shrinkTo](const QSize&) { return target; };
+    return inSourceColours(
+        apply(std::move(photo.image), finishing, options.pixelBudget, photoContext));
+}
+
+BatchEngine::Result BatchEngine::writeOut(int index, Photo photo)
+{
+    if (photo.image.isNull())
+        return {{}, {}, photo.error};
+    const QString& target = targets.at(index);
+    if (!targetErrors.at(index).isEmpty())
+        return {{}, {}, targetErrors.at(index)};
+    QString error;
+    if (!target.isEmpty() &&
+        !makeSubfolder(target.mid(destination.size()).section('/', 0, -2), error))
+        return {{}, {}, error};
+    if (target.isEmpty())
+        return {
+            {},
+            {},
+            tr("cannot write: the name \"%1\" would leave the output folder").arg(names.at(index))};
+    const WriteResult written = write(photo.image, target, photo.metadata);
+    return {std::move(photo.image), target, written.error, written.note};
 }
 
 BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& path,
@@ -305,7 +472,8 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     return {true, {}, note};
 }
 
-BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget, bool toSrgb)
+BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget,
+                                     const PhotoDecoding& decoding)
 {
     const QFileInfo info(path);
     if (!info.exists())
@@ -333,19 +501,28 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget, bo
         return {{}, tr("unreadable: its size cannot be read")};
     if (size.isValid() && qint64(size.width()) * size.height() > pixelBudget)
         return {{}, tooLarge(size)};
+    const QSize shrinkTo = decoding.shrinksTo && reader.format() == "jpeg"
+                               ? shrunkDecoding(reader, size, decoding.shrinksTo)
+                               : QSize();
+    const QSize decodedSize = shrinkTo.isEmpty() ? size : reader.scaledSize();
+    // Decoded into the memory offered when the reader makes a 32-bit image of that very size.
+    QImage image =
+        decoding.buffers ? decoding.buffers->take(decodedSize, reader.imageFormat()) : QImage();
     const ThreadMessages decoder;
-    QImage image = reader.read();
+    if (!reader.read(&image))
+        image = QImage();
     if (!decoder.messages().isEmpty())
         return {{}, tr("damaged: %1").arg(decoder.messages().constFirst().trimmed())};
     if (image.isNull())
         return {{}, tr("unreadable: not a photo this program can read")};
     if (qint64(image.width()) * image.height() > pixelBudget)
         return {{}, tooLarge(image.size())};
-    image =
-        upright(std::move(image).convertToFormat(QImage::Format_ARGB32), reader.transformation());
-    if (toSrgb)
+    image = asWords(std::move(image), decoding.buffers);
+    if (reader.transformation() != QImageIOHandler::TransformationNone)
+        image = upright(image, reader.transformation());
+    if (decoding.toSrgb)
         image = ColorProfiles::toSrgb(image, image.colorSpace().iccProfile());
-    return {std::move(image), {}};
+    return {std::move(image), {}, {}, shrinkTo};
 }
 
 QString BatchEngine::createRunFolder(const QString& base, const QDateTime& start, bool exclusive)

@@ -1,8 +1,9 @@
-// The per-photo work of a batch run, shared by the window's batch and pelodine-batch: read a
-// photo, run the operations over it, write the result. No widgets; one thread drives it.
+// A batch run, shared by the window's batch and pelodine-batch: read each photo, run the
+// operations over it, write the result. No widgets; one thread drives a run, others help it.
 #pragma once
 
 #include "batchoperations.h"
+#include "imagebuffers.h"
 #include "operationcatalogue.h"
 #include "outputsettings.h"
 #include "photometadata.h"
@@ -15,8 +16,23 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
-#include <QThreadPool>
 #include <QVector>
+
+#include <functional>
+#include <memory>
+
+// How BatchEngine::load may decode a photo.
+struct PhotoDecoding
+{
+    // Memory for the pixels, reused from photo to photo.
+    ImageBuffers* buffers = nullptr;
+    // Fast reading: the size an upright photo of the given size is shrunk to first. A JPEG is
+    // then decoded at the smallest of 1/8, 1/4 and 1/2 of its size that is still at least as
+    // large, by its decoder's DCT scaling.
+    std::function<QSize(const QSize&)> shrinksTo = {};
+    // The pixels converted from the photo's colour profile to sRGB (ColorProfiles).
+    bool toSrgb = false;
+};
 
 class BatchEngine
 {
@@ -29,6 +45,9 @@ public:
         QImage image;
         QString error;
         PhotoMetadata metadata = {};
+        // Decoded reduced by fast reading: the size the shrinking first operation gives the
+        // whole photo, which the image is still to be brought to instead of running it.
+        QSize shrinkTo = {};
     };
 
     // The outcome of one write; error is empty when the file was written.
@@ -60,17 +79,30 @@ public:
         bool replaceExisting = true;
         // The most pixels a photo may have, checked before it is decoded.
         qint64 pixelBudget = 100'000'000;
+        // How many photos are read and run through the operations at once, each on a thread of
+        // its own, while the one before them is written.
+        int jobs = 1;
+        // Reading shrunk where the flow begins by shrinking the photo (see PhotoDecoding).
+        bool fastReading = false;
         // A file this run did not write stays, and the photo takes the next free name: " (2)",
         // " (3)", ... before the extension.
         bool besideExisting = false;
     };
 
+    // Asked before each photo of a run is started.
+    enum class Next { Go, Pause, Stop };
+    // How a run asks whether to go on and tells what became of each photo, both on the thread
+    // that drives it. finished comes in the order of the positions run, once a photo is written
+    // or has failed.
+    struct Listener
+    {
+        std::function<Next()> next;
+        std::function<void(int index, const Result& result)> finished;
+    };
+
     // sources: local file paths in run order; destination: the folder, ending in "/".
     BatchEngine(const QStringList& sources, const BatchOperations& operations,
                 const OutputSettings& settings, const QString& destination, const Options& options);
-    // Waits for a read that is still running.
-    ~BatchEngine();
-
     BatchEngine(const BatchEngine&) = delete;
     BatchEngine& operator=(const BatchEngine&) = delete;
 
@@ -81,19 +113,28 @@ public:
     // destination, which is made as needed; never through a link.
     void setInputFolders(const QHash<QString, QString>& folderOfSource);
 
-    // The numbers the odd and even naming schemes give next; a run continues from them.
+    // The numbers the odd and even naming schemes give the first photo; the photo at index i
+    // gets 2 * i more, whatever became of the photos before it.
     void setCounters(int odd, int even);
+    // After a run: the numbers the photo after the last one started would have had.
     int oddCounter() const { return odd; }
     int evenCounter() const { return even; }
 
-    // The photo at index read, run through the operations, named as the settings say and
-    // written into the destination.
-    Result step(int index);
+    // The file the photo at index is written to: destination (and with keepFolders the subfolder
+    // its source was found in) + its name + extension; with keepEveryResult a later photo of a
+    // name already given gets " (2)", " (3)", ... before the extension, as does one whose file is
+    // there already with besideExisting. Empty when the name would leave the folder.
+    QString target(int index) const { return targets.value(index); }
 
-    // The source at index read and run through the operations. Reading the next source starts
-    // on a second thread at once, so it overlaps this photo's operations and writing; at most
-    // one photo is read ahead.
-    Photo process(int index);
+    // The photos at positions (indexes, in the order given) read, run through the operations
+    // and written. Up to jobs photos are read and run at once on threads of their own while
+    // the oldest is written on this one, in position order: at most jobs + 1 photos are
+    // decoded at any time. Before each photo is started next() is asked: Pause starts nothing
+    // new, finishes the photos under way, then asks again every 500 ms; Stop starts nothing
+    // more and returns once the photos under way are finished.
+    void run(const Listener& listener, const QVector<int>& positions);
+    // Every photo, in list order.
+    void run(const Listener& listener);
 
     // Writes through a temporary file, so a failed write leaves no half-written file behind.
     // Refused: a source photo, a link (nothing is written through one), anything but a
@@ -105,9 +146,8 @@ public:
     // file is read; its size is read from its header first and a photo above pixelBudget is refused
     // undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged and
     // not taken, whatever it decoded. Drawings (SVG, EPS) are not photos. A photo whose reader
-    // tells sizes but cannot tell this one's is refused undecoded. With toSrgb its pixels are
-    // converted from its colour profile to sRGB (ColorProfiles).
-    static Photo load(const QString& path, qint64 pixelBudget, bool toSrgb = false);
+    // tells sizes but cannot tell this one's is refused undecoded.
+    static Photo load(const QString& path, qint64 pixelBudget, const PhotoDecoding& decoding = {});
     // The operations in order through their headless forms, for the photo described. An image
     // an operation leaves empty is reported instead of being handed to the next one, and one
     // that would grow past pixelBudget is refused before it is made.
@@ -128,11 +168,20 @@ public:
     static QString createRunFolder(const QString& base, const QDateTime& start, bool exclusive);
 
 private:
-    // The destination, or the subfolder of it that source goes into; empty, with the reason in
-    // error, when that cannot be had.
-    QString targetFolder(const QString& source, QString& error) const;
-    // Whether a result must not go to target under the options.
-    bool isTaken(const QString& target) const;
+    // The photo at index read and run through the operations for the photo described; safe on
+    // any thread.
+    Photo readAndApply(int index, ImageBuffers& buffers, const PhotoContext& photo) const;
+    // The photo at index, read and run, written to its target with its metadata.
+    Result writeOut(int index, Photo photo);
+    // Every photo's name and target, from the counters.
+    void nameAll();
+    // The subfolder below the destination that source goes into, ending in "/", or empty; error
+    // says why a source outside its input folder has none.
+    QString subfolderOf(const QString& source, QString& error) const;
+    // Makes the destination's subfolder one level at a time, never through a link.
+    bool makeSubfolder(const QString& subfolder, QString& error) const;
+    // Whether a result must not go to target, given the targets named before it.
+    bool isTaken(const QString& target, const QSet<QString>& given) const;
 
     QStringList sources;
     QHash<QString, QString> inputFolders;
@@ -145,7 +194,8 @@ private:
     QSet<QString> sourcePaths;
     QSet<QString> writtenPaths;
     QVector<PreparedOperation> operations;
-    QThreadPool readerPool;
-    int readAheadIndex = -1;
-    QFuture<Photo> readAhead;
+    QStringList names;
+    QStringList targets;
+    // Why the photo at an index has no target, where its folder is to blame.
+    QStringList targetErrors;
 };

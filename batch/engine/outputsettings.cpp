@@ -3,6 +3,8 @@
 #include "appdata.h"
 #include "outputnaming.h"
 
+#include <QThread>
+
 namespace {
 
 const char keyOpenLocation[] = "KeyOpenLocation";
@@ -21,6 +23,8 @@ const char keyMaxKilobytes[] = "KeyMaxKilobytes";
 const char keyConvertToSrgb[] = "KeyConvertToSrgb";
 const char keySaveInto[] = "KeySaveInto";
 const char keyKeepFolders[] = "KeyKeepFolders";
+const char keyJobs[] = "KeyJobs";
+const char keyFastReading[] = "KeyFastReading";
 
 // A stored number, or the default when the stored text is not one.
 int readInt(const char* key, int defaultValue)
@@ -60,6 +64,9 @@ OutputSettings OutputSettings::load()
     settings.saveInto = OrkTools::AppData::readSetting(keySaveInto, defaults.saveInto).toString();
     settings.keepFolders =
         OrkTools::AppData::readSetting(keyKeepFolders, defaults.keepFolders).toBool();
+    settings.jobs = qBound(0, readInt(keyJobs, defaults.jobs), maxJobs);
+    settings.fastReading =
+        OrkTools::AppData::readSetting(keyFastReading, defaults.fastReading).toBool();
     return settings;
 }
 
@@ -81,6 +88,8 @@ void OutputSettings::save() const
     OrkTools::AppData::writeSetting(keyConvertToSrgb, convertToSrgb);
     OrkTools::AppData::writeSetting(keySaveInto, saveInto);
     OrkTools::AppData::writeSetting(keyKeepFolders, keepFolders);
+    OrkTools::AppData::writeSetting(keyJobs, jobs);
+    OrkTools::AppData::writeSetting(keyFastReading, fastReading);
 }
 
 QString OutputSettings::extension() const
@@ -116,4 +125,9 @@ qint64 OutputSettings::pixelBudget() const
 int OutputSettings::writerQuality() const
 {
     return takesQuality(format) ? quality : -1;
+}
+
+int OutputSettings::jobCount() const
+{
+    return jobs > 0 ? jobs : qMax(1, QThread::idealThreadCount());
 }

@@ -30,6 +30,8 @@ struct OutputSettings
     // "KeyKeepFolders": a photo found in a folder given as input goes into the same subfolder
     // below the output folder.
     bool keepFolders = false;
+    int jobs = 0;             // "KeyJobs": photos worked on at once, 0 for one per core
+    bool fastReading = false; // "KeyFastReading": decode shrunk where the flow shrinks first
 
     // The stored values; a key that is missing or unreadable gives the default above.
     static OutputSettings load();
@@ -54,4 +56,8 @@ struct OutputSettings
     QString extension() const;
     // Whether the format keeps transparency; the others get photos laid on the background.
     bool keepsTransparency() const;
+    // jobs, or the number of cores for 0.
+    int jobCount() const;
+    // The most photos worked on at once that a setting or the command line may ask for.
+    static constexpr int maxJobs = 64;
 };

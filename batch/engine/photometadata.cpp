@@ -195,6 +195,9 @@ QDateTime takenAt(const Exiv2::ExifData& exif, const Exiv2::XmpData& xmp)
 PhotoMetadata PhotoMetadata::read(const QString& path)
 {
     PhotoMetadata metadata;
+    // A FIFO or a device would block the run or never end.
+    if (!QFileInfo(path).isFile())
+        return metadata;
     try {
         initialise();
         // A file, never a URL: FileIo opens it for reading only.

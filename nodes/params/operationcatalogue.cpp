@@ -73,7 +73,7 @@ PreparedOperation prepareHeadless(const QString& name, const QString& parameters
                 // The kernels read 32-bit words; a photo of another depth is widened first.
                 if (image.depth() != 32)
                     image = image.convertToFormat(QImage::Format_ARGB32);
-                return Op::run(image, forPhoto(values, photo));
+                return Op::run(std::move(image), forPhoto(values, photo));
             },
             [values](const QSize& size) { return sizeAfter(values, size); }};
 }

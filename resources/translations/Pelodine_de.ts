@@ -169,7 +169,27 @@
         <translation>Speichern in:</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+6"/>
+        <source>One per core</source>
+        <translation>Eines je Kern</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Fast reading</source>
+        <translation>Schnelles Einlesen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A flow that begins by shrinking the photo to half or less reads a JPEG at a half, a quarter or an eighth of its size: much faster, a little less sharp</source>
+        <translation>Ein Ablauf, der das Foto zuerst auf die Hälfte oder weniger verkleinert, liest ein JPEG in halber, Viertel- oder Achtelgröße: viel schneller, etwas weniger scharf</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Photos at once:</source>
+        <translation>Fotos gleichzeitig:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Ok</source>
         <translation>OK</translation>
     </message>
@@ -179,7 +199,7 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+21"/>
         <source>Save into</source>
         <translation>Speichern in</translation>
     </message>
@@ -234,29 +254,29 @@
         <translation> Stapelverarbeitung</translation>
     </message>
     <message>
-        <location line="+11"/>
-        <location line="+55"/>
-        <location line="+42"/>
+        <location line="+14"/>
+        <location line="+57"/>
+        <location line="+61"/>
         <source>Pause</source>
         <translation>Pause</translation>
     </message>
     <message>
-        <location line="-94"/>
+        <location line="-115"/>
         <source>Stop</source>
         <translation>Stopp</translation>
     </message>
     <message>
-        <location line="+52"/>
+        <location line="+54"/>
         <source>Resume</source>
         <translation>Fortsetzen</translation>
     </message>
     <message>
-        <location line="+30"/>
+        <location line="+34"/>
         <source>of</source>
         <translation>von</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+32"/>
         <source>&lt;CENTER&gt;&lt;H1&gt;Please, wait...&lt;/H1&gt;&lt;/CENTER&gt;</source>
         <translation>&lt;CENTER&gt;&lt;H1&gt;Bitte warten...&lt;/H1&gt;&lt;/CENTER&gt;</translation>
     </message>
@@ -264,17 +284,12 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+220"/>
-        <source>no photo at position %1</source>
-        <translation>kein Foto an Position %1</translation>
-    </message>
-    <message>
-        <location line="+31"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+418"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>Schreiben nicht möglich: ein Quellfoto würde ersetzt</translation>
     </message>
     <message>
-        <location line="-166"/>
+        <location line="-262"/>
         <source>cannot write: %1</source>
         <translation>Schreiben nicht möglich: %1</translation>
     </message>
@@ -294,28 +309,28 @@
         <translation>Schreiben nicht möglich: keine Berechtigung</translation>
     </message>
     <message>
-        <location line="+78"/>
+        <location line="+252"/>
         <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
         <translation>Schreiben nicht möglich: der Name „%1“ würde den Ausgabeordner verlassen</translation>
     </message>
     <message>
-        <location line="+26"/>
+        <location line="-145"/>
         <source>cannot write: the photo is not inside %1</source>
         <translation>Schreiben nicht möglich: das Foto liegt nicht in %1</translation>
     </message>
     <message>
-        <location line="+12"/>
-        <location line="+58"/>
+        <location line="+17"/>
+        <location line="+146"/>
         <source>cannot write: %1 is a link</source>
         <translation>Schreiben nicht möglich: %1 ist eine Verknüpfung</translation>
     </message>
     <message>
-        <location line="-57"/>
+        <location line="-145"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="+59"/>
+        <location line="+147"/>
         <source>cannot write: %1 is not a regular file</source>
         <translation>Schreiben nicht möglich: %1 ist keine normale Datei</translation>
     </message>
@@ -335,7 +350,7 @@
         <translation>Schreiben nicht möglich: der %1-Schreiber scheiterte</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+22"/>
         <source>unreadable: not a regular file</source>
         <translation>nicht lesbar: keine normale Datei</translation>
     </message>
@@ -360,7 +375,7 @@
         <translation>nicht lesbar: seine Größe lässt sich nicht lesen</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+14"/>
         <source>damaged: %1</source>
         <translation>beschädigt: %1</translation>
     </message>
@@ -370,12 +385,12 @@
         <translation>nicht lesbar: kein Foto, das dieses Programm lesen kann</translation>
     </message>
     <message>
-        <location line="-29"/>
+        <location line="-37"/>
         <source>unreadable: no such file</source>
         <translation>nicht lesbar: Datei existiert nicht</translation>
     </message>
     <message>
-        <location line="-238"/>
+        <location line="-335"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>die Operation „%1“ hat kein Bild hinterlassen</translation>
     </message>
@@ -1077,6 +1092,24 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>RunClock</name>
+    <message>
+        <location filename="../../batch/engine/runclock.cpp" line="+29"/>
+        <source>%1 s left</source>
+        <translation>noch %1 s</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 min %2 s left</source>
+        <translation>noch %1 min %2 s</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 h %2 min left</source>
+        <translation>noch %1 h %2 min</translation>
+    </message>
+</context>
+<context>
     <name>RunSummaryBar</name>
     <message>
         <location filename="../../mainpage/runsummarybar.cpp" line="+46"/>
@@ -1499,7 +1532,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+71"/>
+        <location filename="../../app/batchmain.cpp" line="+77"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1612,7 +1645,27 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>Keine Ergebnisse schreiben: den Ablauf auf jedes Foto in der Größe der Vorschau des Fensters anwenden und einen Bogen mit allen in FILE schreiben, jedes mit seinem Namen und der Größe beschriftet, die der Lauf schreiben würde. Das Format folgt der Endung von FILE.</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+7"/>
+        <source>Work on N photos at once. Default: one per core (%1).</source>
+        <translation>N Fotos gleichzeitig bearbeiten. Vorgabe: eines je Kern (%1).</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Fast reading: when the flow begins by shrinking the photo to half or less, read a JPEG at 1/2, 1/4 or 1/8 of its size and finish the resize from there. The results have the same size, a little less sharp.</source>
+        <translation>Schnelles Einlesen: Verkleinert der Ablauf das Foto zuerst auf die Hälfte oder weniger, wird ein JPEG in 1/2, 1/4 oder 1/8 seiner Größe gelesen und von dort fertig verkleinert. Die Ergebnisse haben dieselbe Größe und sind etwas weniger scharf.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Skip every photo whose result is already in the --output folder, as after a run that was stopped.</source>
+        <translation>Jedes Foto überspringen, dessen Ergebnis schon im Ordner von --output liegt, etwa nach einem angehaltenen Lauf.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Take only the photos whose position (from 0) leaves K when divided by N, named and numbered as in the whole list: N copies with K = 0 .. N-1 share the work.</source>
+        <translation>Nur die Fotos nehmen, deren Position (ab 0) geteilt durch N den Rest K lässt, benannt und nummeriert wie in der ganzen Liste: N Kopien mit K = 0 .. N-1 teilen sich die Arbeit.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
         <source>Photos, and folders whose image files (subfolders included) are taken in name order.</source>
         <translation>Fotos und Ordner, deren Bilddateien (samt Unterordnern) in Namensreihenfolge genommen werden.</translation>
     </message>
@@ -1632,7 +1685,17 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>%1 ist kein Ablauf: kein wohlgeformtes XML</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+20"/>
+        <source>--resume needs the --output folder to resume in</source>
+        <translation>--resume braucht den Ordner von --output, in dem fortgesetzt wird</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>the shard must be K/N with N at least 1 and K from 0 to N-1</source>
+        <translation>der Anteil muss K/N sein, mit N mindestens 1 und K von 0 bis N-1</translation>
+    </message>
+    <message>
+        <location line="+14"/>
         <source>unknown format %1</source>
         <translation>unbekanntes Format %1</translation>
     </message>
@@ -1687,7 +1750,12 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>--keep-folders und --no-keep-folders schließen einander aus</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+13"/>
+        <source>the jobs must be a whole number from 1 to %1</source>
+        <translation>die Zahl der Aufträge muss eine ganze Zahl von 1 bis %1 sein</translation>
+    </message>
+    <message>
+        <location line="+8"/>
         <source>--contact-sheet writes no results: it does not go with --output</source>
         <translation>--contact-sheet schreibt keine Ergebnisse: es passt nicht zu --output</translation>
     </message>
@@ -1706,8 +1774,21 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <source>pelodine-batch: nothing written; --lenient runs the flow without what was left out</source>
         <translation>pelodine-batch: nichts geschrieben; --lenient führt den Ablauf ohne das Ausgelassene aus</translation>
     </message>
+    <message numerus="yes">
+        <location line="+40"/>
+        <source>%n photo(s) skipped: their results are already in %1</source>
+        <translation>
+            <numerusform>%n Foto übersprungen: sein Ergebnis liegt schon in %1</numerusform>
+            <numerusform>%n Fotos übersprungen: ihre Ergebnisse liegen schon in %1</numerusform>
+        </translation>
+    </message>
     <message>
-        <location line="+75"/>
+        <location line="+16"/>
+        <source>%1 photos/s</source>
+        <translation>%1 Fotos/s</translation>
+    </message>
+    <message>
+        <location line="+55"/>
         <source>contact sheet of %1 photos written into %2</source>
         <translation>Kontaktbogen mit %1 Fotos in %2 geschrieben</translation>
     </message>
@@ -1725,12 +1806,12 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>siehe pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-172"/>
+        <location line="-208"/>
         <source>no photos in the folders given</source>
         <translation>keine Fotos in den angegebenen Ordnern</translation>
     </message>
     <message>
-        <location line="-217"/>
+        <location line="-265"/>
         <source>The quality of JPEG, WEBP, AVIF, JXL and HEIC.</source>
         <translation>Die Qualität von JPEG, WEBP, AVIF, JXL und HEIC.</translation>
     </message>
@@ -1740,18 +1821,18 @@ Ein Quellfoto wird nie überschrieben; nichts wird durch eine Verknüpfung, auß
         <translation>Jede JPEG-, WEBP-, AVIF- oder JXL-Datei höchstens N Kilobyte groß halten: die höchste Qualität bis --quality, die passt; ein Foto, das selbst bei Qualität 1 nicht passt, wird mit 1 geschrieben und genannt.</translation>
     </message>
     <message>
-        <location line="+204"/>
-        <location line="+101"/>
+        <location line="+252"/>
+        <location line="+137"/>
         <source>cannot create the folder %1</source>
         <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
-        <location line="-36"/>
+        <location line="-33"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>%1 von %2 Fotos nach %3 geschrieben</translation>
     </message>
     <message numerus="yes">
-        <location line="+6"/>
+        <location line="+7"/>
         <source>%n photo(s) failed:</source>
         <translation>
             <numerusform>%n Foto fehlgeschlagen:</numerusform>

@@ -169,7 +169,27 @@
         <translation>Сохранять в:</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+6"/>
+        <source>One per core</source>
+        <translation>По одному на ядро</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Fast reading</source>
+        <translation>Быстрое чтение</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A flow that begins by shrinking the photo to half or less reads a JPEG at a half, a quarter or an eighth of its size: much faster, a little less sharp</source>
+        <translation>Если поток сначала уменьшает фото вдвое или сильнее, JPEG читается в половину, четверть или восьмую часть размера: намного быстрее, чуть менее резко</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Photos at once:</source>
+        <translation>Фото одновременно:</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>Ok</source>
         <translation>ОК</translation>
     </message>
@@ -179,7 +199,7 @@
         <translation>Отмена</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+21"/>
         <source>Save into</source>
         <translation>Сохранять в</translation>
     </message>
@@ -234,29 +254,29 @@
         <translation> Пакетная обработка</translation>
     </message>
     <message>
-        <location line="+11"/>
-        <location line="+55"/>
-        <location line="+42"/>
+        <location line="+14"/>
+        <location line="+57"/>
+        <location line="+61"/>
         <source>Pause</source>
         <translation>Пауза</translation>
     </message>
     <message>
-        <location line="-94"/>
+        <location line="-115"/>
         <source>Stop</source>
         <translation>Стоп</translation>
     </message>
     <message>
-        <location line="+52"/>
+        <location line="+54"/>
         <source>Resume</source>
         <translation>Продолжить</translation>
     </message>
     <message>
-        <location line="+30"/>
+        <location line="+34"/>
         <source>of</source>
         <translation>из</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+32"/>
         <source>&lt;CENTER&gt;&lt;H1&gt;Please, wait...&lt;/H1&gt;&lt;/CENTER&gt;</source>
         <translation>&lt;CENTER&gt;&lt;H1&gt;Пожалуйста, подождите...&lt;/H1&gt;&lt;/CENTER&gt;</translation>
     </message>
@@ -264,17 +284,12 @@
 <context>
     <name>BatchEngine</name>
     <message>
-        <location filename="../../batch/engine/batchengine.cpp" line="+220"/>
-        <source>no photo at position %1</source>
-        <translation>нет фото в позиции %1</translation>
-    </message>
-    <message>
-        <location line="+31"/>
+        <location filename="../../batch/engine/batchengine.cpp" line="+418"/>
         <source>cannot write: it would replace a source photo</source>
         <translation>запись невозможна: исходное фото было бы заменено</translation>
     </message>
     <message>
-        <location line="-166"/>
+        <location line="-262"/>
         <source>cannot write: %1</source>
         <translation>запись невозможна: %1</translation>
     </message>
@@ -294,28 +309,28 @@
         <translation>запись невозможна: нет прав доступа</translation>
     </message>
     <message>
-        <location line="+78"/>
+        <location line="+252"/>
         <source>cannot write: the name &quot;%1&quot; would leave the output folder</source>
         <translation>запись невозможна: имя «%1» выводит за пределы папки результатов</translation>
     </message>
     <message>
-        <location line="+26"/>
+        <location line="-145"/>
         <source>cannot write: the photo is not inside %1</source>
         <translation>запись невозможна: фото лежит не внутри %1</translation>
     </message>
     <message>
-        <location line="+12"/>
-        <location line="+58"/>
+        <location line="+17"/>
+        <location line="+146"/>
         <source>cannot write: %1 is a link</source>
         <translation>запись невозможна: %1 — ссылка</translation>
     </message>
     <message>
-        <location line="-57"/>
+        <location line="-145"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="+59"/>
+        <location line="+147"/>
         <source>cannot write: %1 is not a regular file</source>
         <translation>запись невозможна: %1 — не обычный файл</translation>
     </message>
@@ -335,7 +350,7 @@
         <translation>запись невозможна: ошибка записи %1</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+22"/>
         <source>unreadable: not a regular file</source>
         <translation>не читается: не обычный файл</translation>
     </message>
@@ -360,7 +375,7 @@
         <translation>не читается: не удаётся прочитать её размер</translation>
     </message>
     <message>
-        <location line="+6"/>
+        <location line="+14"/>
         <source>damaged: %1</source>
         <translation>повреждён: %1</translation>
     </message>
@@ -370,12 +385,12 @@
         <translation>не читается: это не фото, которое может прочитать программа</translation>
     </message>
     <message>
-        <location line="-29"/>
+        <location line="-37"/>
         <source>unreadable: no such file</source>
         <translation>не читается: файл не существует</translation>
     </message>
     <message>
-        <location line="-238"/>
+        <location line="-335"/>
         <source>the operation &quot;%1&quot; left no image</source>
         <translation>операция «%1» не оставила изображения</translation>
     </message>
@@ -1077,6 +1092,24 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>RunClock</name>
+    <message>
+        <location filename="../../batch/engine/runclock.cpp" line="+29"/>
+        <source>%1 s left</source>
+        <translation>осталось %1 с</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1 min %2 s left</source>
+        <translation>осталось %1 мин %2 с</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 h %2 min left</source>
+        <translation>осталось %1 ч %2 мин</translation>
+    </message>
+</context>
+<context>
     <name>RunSummaryBar</name>
     <message>
         <location filename="../../mainpage/runsummarybar.cpp" line="+46"/>
@@ -1499,7 +1532,7 @@ Overwrite?</source>
 <context>
     <name>main</name>
     <message>
-        <location filename="../../app/batchmain.cpp" line="+71"/>
+        <location filename="../../app/batchmain.cpp" line="+77"/>
         <source>Runs a Pelodine flow over photos and writes the results, as the window&apos;s &quot;Save Results&quot; does.
 Options that are not given take their defaults: JPEG at quality 90, the photos&apos; own names, numbers all; with --use-window-settings they come from the settings of the Pelodine window.
 Progress and a summary go to the standard error; every photo that failed is named with the reason.
@@ -1612,7 +1645,27 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>Не записывать результаты: выполнить поток для каждого фото в размере предпросмотра окна и записать в FILE один лист со всеми, каждое с подписью: имя и размер, который записал бы запуск. Формат следует расширению FILE.</translation>
     </message>
     <message>
-        <location line="+9"/>
+        <location line="+7"/>
+        <source>Work on N photos at once. Default: one per core (%1).</source>
+        <translation>Обрабатывать N фото одновременно. По умолчанию: по одному на ядро (%1).</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Fast reading: when the flow begins by shrinking the photo to half or less, read a JPEG at 1/2, 1/4 or 1/8 of its size and finish the resize from there. The results have the same size, a little less sharp.</source>
+        <translation>Быстрое чтение: если поток сначала уменьшает фото вдвое или сильнее, JPEG читается в 1/2, 1/4 или 1/8 размера, и уменьшение завершается оттуда. Результаты того же размера, чуть менее резкие.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Skip every photo whose result is already in the --output folder, as after a run that was stopped.</source>
+        <translation>Пропускать каждое фото, результат которого уже есть в папке --output, например после остановленного запуска.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Take only the photos whose position (from 0) leaves K when divided by N, named and numbered as in the whole list: N copies with K = 0 .. N-1 share the work.</source>
+        <translation>Брать только фото, позиция которых (с 0) даёт остаток K при делении на N, с именами и номерами как во всём списке: N копий с K = 0 .. N-1 делят работу.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
         <source>Photos, and folders whose image files (subfolders included) are taken in name order.</source>
         <translation>Фото и папки, файлы изображений которых (включая подпапки) берутся в порядке имён.</translation>
     </message>
@@ -1632,7 +1685,17 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>%1 — не сценарий: это некорректный XML</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+20"/>
+        <source>--resume needs the --output folder to resume in</source>
+        <translation>--resume нужна папка --output, в которой продолжить</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>the shard must be K/N with N at least 1 and K from 0 to N-1</source>
+        <translation>доля должна быть K/N, где N не меньше 1, а K от 0 до N-1</translation>
+    </message>
+    <message>
+        <location line="+14"/>
         <source>unknown format %1</source>
         <translation>неизвестный формат %1</translation>
     </message>
@@ -1687,7 +1750,12 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>--keep-folders и --no-keep-folders исключают друг друга</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+13"/>
+        <source>the jobs must be a whole number from 1 to %1</source>
+        <translation>число заданий должно быть целым числом от 1 до %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
         <source>--contact-sheet writes no results: it does not go with --output</source>
         <translation>--contact-sheet не записывает результатов: он несовместим с --output</translation>
     </message>
@@ -1706,8 +1774,22 @@ A source photo is never written over; nothing is written through a link, outside
         <source>pelodine-batch: nothing written; --lenient runs the flow without what was left out</source>
         <translation>pelodine-batch: ничего не записано; --lenient выполняет поток без пропущенного</translation>
     </message>
+    <message numerus="yes">
+        <location line="+40"/>
+        <source>%n photo(s) skipped: their results are already in %1</source>
+        <translation>
+            <numerusform>%n фото пропущено: результат уже есть в %1</numerusform>
+            <numerusform>%n фото пропущены: результаты уже есть в %1</numerusform>
+            <numerusform>%n фото пропущено: результаты уже есть в %1</numerusform>
+        </translation>
+    </message>
     <message>
-        <location line="+75"/>
+        <location line="+16"/>
+        <source>%1 photos/s</source>
+        <translation>%1 фото/с</translation>
+    </message>
+    <message>
+        <location line="+55"/>
         <source>contact sheet of %1 photos written into %2</source>
         <translation>лист просмотра с %1 фото записан в %2</translation>
     </message>
@@ -1726,12 +1808,12 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>см. pelodine-batch --help</translation>
     </message>
     <message>
-        <location line="-172"/>
+        <location line="-208"/>
         <source>no photos in the folders given</source>
         <translation>в указанных папках нет фото</translation>
     </message>
     <message>
-        <location line="-217"/>
+        <location line="-265"/>
         <source>The quality of JPEG, WEBP, AVIF, JXL and HEIC.</source>
         <translation>Качество JPEG, WEBP, AVIF, JXL и HEIC.</translation>
     </message>
@@ -1741,18 +1823,18 @@ A source photo is never written over; nothing is written through a link, outside
         <translation>Держать каждый файл JPEG, WEBP, AVIF или JXL не больше N килобайт: наибольшее качество до --quality, которое подходит; фотография, которая не подходит даже при качестве 1, записывается с качеством 1 и называется.</translation>
     </message>
     <message>
-        <location line="+204"/>
-        <location line="+101"/>
+        <location line="+252"/>
+        <location line="+137"/>
         <source>cannot create the folder %1</source>
         <translation>не удаётся создать папку %1</translation>
     </message>
     <message>
-        <location line="-36"/>
+        <location line="-33"/>
         <source>%1 of %2 photos written into %3</source>
         <translation>записано %1 из %2 фото в %3</translation>
     </message>
     <message numerus="yes">
-        <location line="+6"/>
+        <location line="+7"/>
         <source>%n photo(s) failed:</source>
         <translation>
             <numerusform>%n фото не обработано:</numerusform>

@@ -18,6 +18,7 @@
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 
@@ -280,11 +281,13 @@ private slots:
         QCOMPARE(fileNames(out), QString("a.jpeg"));
     }
 
-    // The first photo's progress pauses the run; a stop then ends the pause and the run.
-    void stopWhilePaused()
+    // Two photos at once: the first photo's progress pauses the run while the next two are under
+    // way. They are finished and written, nothing more is started; a stop ends the pause and
+    // the run.
+    void pauseAndStopWithPhotosInFlight()
     {
         QStringList photos;
-        for (int i = 0; i < 5; ++i)
+        for (int i = 0; i < 6; ++i)
             photos << photo(QString("p%1.png").arg(i));
         auto* worker = new BatchWorker;
         BatchThread thread(worker);
@@ -294,13 +297,17 @@ private slots:
             Qt::DirectConnection);
         // The run's end quits the thread, so that a run that never ends fails the wait.
         connect(worker, &BatchWorker::finished, &thread, &QThread::quit, Qt::DirectConnection);
-        worker->prepare(OutputSettings(), out, urls(photos), {});
+        OutputSettings settings;
+        settings.jobs = 2;
+        worker->prepare(settings, out, urls(photos), {});
         thread.start();
-        QTRY_VERIFY(QFile::exists(out + "p0.jpeg"));
+        QTRY_COMPARE(fileNames(out), QString("p0.jpeg p1.jpeg p2.jpeg"));
+        // Longer than the pause's polling.
+        QTest::qWait(700);
         worker->requestStop();
         QVERIFY(thread.wait(5000));
         delete worker;
-        QCOMPARE(fileNames(out), QString("p0.jpeg"));
+        QCOMPARE(fileNames(out), QString("p0.jpeg p1.jpeg p2.jpeg"));
     }
 
     // Escape at once, most likely within the start delay: begun or not, the run ends and the
@@ -329,6 +336,11 @@ private slots:
         addRow("quality in words", "--quality high PHOTO", 2, "the quality must be 1 to 100+");
         addRow("unknown numbers", "--numbers prime PHOTO", 2,
                "the numbers must be all, odd or even+");
+        addRow("no jobs", "--jobs 0 PHOTO", 2, "the jobs must be a whole number from 1 to 64+");
+        addRow("shard past its count", "--shard 2/2 PHOTO", 2,
+               "the shard must be K/N with N at least 1 and K from 0 to N-1+");
+        addRow("resume without output", "--resume PHOTO", 2,
+               "--resume needs the --output folder to resume in+");
         addRow("unknown metadata", "--metadata none PHOTO", 2,
                "the metadata must be keep, strip-location or strip+");
         addRow("no photos", "--format PNG", 2, "no photos given+");
@@ -436,10 +448,17 @@ private slots:
                  qPrintable(folders.first()));
         const QString folder = OrkTools::AppData::outputBaseFolder() + folders.first() + "/";
         QCOMPARE(treeOf(folder), QString("photo0.jpeg photo1.jpeg sub/photo2.jpeg"));
-        const QStringList expected{"1 of 3: " + photos.at(0), "2 of 3: " + photos.at(1),
-                                   "3 of 3: " + photos.at(2),
-                                   "3 of 3 photos written into " + folder};
-        QCOMPARE(outcome.err.split('\n', Qt::SkipEmptyParts), expected);
+        // A line per photo finished, with the time the rest takes at the pace so far.
+        const QStringList lines = outcome.err.split('\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 4);
+        for (int i = 0; i < 3; ++i) {
+            const QRegularExpression line(
+                QString("^%1 of 3: %2 \\(\\d+ s left, \\d+\\.\\d photos/s\\)$")
+                    .arg(i + 1)
+                    .arg(QRegularExpression::escape(photos.at(i))));
+            QVERIFY2(line.match(lines.at(i)).hasMatch(), qPrintable(lines.at(i)));
+        }
+        QCOMPARE(lines.last(), "3 of 3 photos written into " + folder);
     }
 
     // A stored number that cannot be read gives the default: quality 90, numbers all.
@@ -825,12 +844,14 @@ private slots:
         const QStringList sources = {photo("a.png"), photo("b.png"), photo("c.png")};
         BatchEngine engine(sources, {{"Watermark", watermark("{n}/{count} {file}")}}, {}, out, {});
         QVector<QImage> drawn;
-        for (const char* text : {"1/3 a.png", "2/3 b.png", "3/3 c.png"}) {
-            drawn << engine.process(drawn.size()).image;
-            QCOMPARE_IMAGES(drawn.last(),
+        engine.run({[] { return BatchEngine::Next::Go; },
+                    [&drawn](int, const BatchEngine::Result& result) { drawn << result.image; }});
+        QCOMPARE(drawn.size(), 3);
+        const char* texts[] = {"1/3 a.png", "2/3 b.png", "3/3 c.png"};
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE_IMAGES(drawn.at(i),
                             applyOperation("Watermark", TestUtils::filledImage(40, 30, 0xff203040),
-                                           watermark(text)));
-        }
+                                           watermark(texts[i])));
         QVERIFY(drawn.at(0) != drawn.at(1) && drawn.at(1) != drawn.at(2));
     }
 

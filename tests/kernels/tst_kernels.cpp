@@ -422,6 +422,23 @@ private slots:
                             : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
 
+    // Every alpha with changing colours: a photo the resize alone holds is premultiplied where
+    // it lies, and must come out as Qt's own conversion into a copy gives it.
+    void resizeOwnImage()
+    {
+        QImage image(256, 4, QImage::Format_ARGB32);
+        for (int y = 0; y < 4; ++y) {
+            for (int x = 0; x < 256; ++x)
+                image.setPixel(x, y, qRgba(x * 7 + y * 50, 255 - x, x * 3 + y, x));
+        }
+        const QImage expected =
+            image.scaled(101, 3, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QCOMPARE_IMAGES(resizeImage(image, 101, 3, 2, false), expected);
+        // To its own size it comes back as it is, format and all.
+        QImage same = TestUtils::filledImage(8, 4, 0x80402010);
+        QCOMPARE(resizeImage(same, 8, 4, 2, false).format(), QImage::Format_ARGB32);
+    }
+
     void watermarkPlacement_data()
     {
         // The red on a 1000 x 500 image; null for none.

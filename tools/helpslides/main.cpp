@@ -18,6 +18,7 @@
 #include "nodesoptionspanel.h"
 #include "nodestabbar.h"
 #include "representor.h"
+#include "runclock.h"
 #include "runsummarybar.h"
 #include "testutils.h"
 #include "translationsmanager.h"
@@ -509,6 +510,7 @@ bool writeDocs(const QString& folder, const QList<QUrl>& photos)
             auto* batch = sample.page.representor()->findChild<BatchDialog*>();
             batch->show();
             batch->slotUpdateInfo(QImage(photos.at(0).toLocalFile()).scaledToWidth(600), 1, 3);
+            batch->slotProgressDetails(photos.at(0).fileName(), RunClock::timeLeftText(75));
             shots << qMakePair(QString("batch-dialog"), grabWindow(batch));
             batch->hide();
             shots << qMakePair(QString("results-grid"), resultsGrid(sample.page));

@@ -209,6 +209,21 @@ void copyShifted(const QImage& source, QImage& result, qint64 dx, qint64 dy)
     }
 }
 
+// The conversion from ARGB32 to ARGB32_Premultiplied, word for word what Qt's gives, done in
+// the image's own memory (Qt converts memory it did not allocate into a copy).
+void premultiplyInPlace(QImage& image)
+{
+    const int width = image.width();
+    for (int y = 0; y < image.height(); ++y) {
+        QRgb* row = rowWords(image, y);
+        for (QRgb* pixel = row; pixel != row + width; ++pixel) {
+            if (qAlpha(*pixel) != 255)
+                *pixel = qPremultiply(*pixel);
+        }
+    }
+    image.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
 } // namespace
 
 QImage rotateImage(QImage& image, int angle)
@@ -356,6 +371,11 @@ QImage resizeImage(QImage& image, int width, int height, int mode, bool previewM
         target = QSize(700, int(qint64(height) * 700 / width));
     else if (previewMode && mode == 2 && height > 700)
         target = QSize(int(qint64(width) * 700 / height), 700);
+    // Qt scales premultiplied words only; an image no one else holds is converted where it lies
+    // instead of into a copy as large. An image of the target size comes back as it is.
+    if (image.format() == QImage::Format_ARGB32 && image.isDetached() && !target.isEmpty() &&
+        target != image.size())
+        premultiplyInPlace(image);
     return image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
