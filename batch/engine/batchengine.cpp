@@ -331,7 +331,12 @@ void BatchEngine::run(const Listener& listener, const QVector<int>& order)
                 metadata.describe(sources.at(index), index, sources.size());
             underWay.push_back(
                 {index, metadata, QtConcurrent::run(&helpers, [this, index, buffers, described] {
-                     return readAndApply(index, *buffers, described);
+                     // Encoded where it was made, so that the thread writing in order is free
+                     // for the file work; the metadata goes in there, where Exiv2 is kept.
+                     Photo photo = readAndApply(index, *buffers, described);
+                     if (!photo.image.isNull() && !searchesQuality())
+                         photo.encodedPixels = encodedPixels(photo.image, settings.writerQuality());
+                     return photo;
                  })});
         }
     };
@@ -405,12 +410,30 @@ BatchEngine::Result BatchEngine::writeOut(int index, Photo photo)
             {},
             {},
             tr("cannot write: the name \"%1\" would leave the output folder").arg(names.at(index))};
-    const WriteResult written = write(photo.image, target, photo.metadata);
+    const WriteResult written = write(photo.image, target, photo.metadata, photo.encodedPixels);
     return {std::move(photo.image), target, written.error, written.note};
 }
 
+bool BatchEngine::searchesQuality() const
+{
+    return settings.maxKilobytes > 0 && OutputSettings::takesSizeBudget(settings.format);
+}
+
+QByteArray BatchEngine::encodedPixels(const QImage& image, int quality) const
+{
+    const QImage written =
+        settings.keepsTransparency() ? image : laidOn(image, settings.background);
+    QByteArray encoded;
+    QBuffer buffer(&encoded);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, settings.format.toLatin1());
+    writer.setQuality(quality);
+    return writer.write(written) ? encoded : QByteArray();
+}
+
 BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& path,
-                                            const PhotoMetadata& metadata)
+                                            const PhotoMetadata& metadata,
+                                            const QByteArray& encodedBefore)
 {
     const QStringList forms = pathForms(path);
     for (const QString& form : forms) {
@@ -432,23 +455,18 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     if (!file.open(QIODevice::WriteOnly))
         return {false, writeError(file)};
     // Encoded in memory first: the metadata goes into the bytes before any reach the file.
-    const QImage written =
-        settings.keepsTransparency() ? image : laidOn(image, settings.background);
     const auto encode = [&](int quality) {
-        QByteArray encoded;
-        QBuffer buffer(&encoded);
-        buffer.open(QIODevice::WriteOnly);
-        QImageWriter writer(&buffer, settings.format.toLatin1());
-        writer.setQuality(quality);
-        return writer.write(written) ? metadata.embedInto(encoded, image.size(), settings,
-                                                          image.colorSpace().iccProfile())
-                                     : QByteArray();
+        const QByteArray pixels =
+            encodedBefore.isEmpty() ? encodedPixels(image, quality) : encodedBefore;
+        return pixels.isEmpty() ? QByteArray()
+                                : metadata.embedInto(pixels, image.size(), settings,
+                                                     image.colorSpace().iccProfile());
     };
     // A photo that fits its budget not even at quality 1 is written at 1 and said so.
     const qint64 budget = qint64(settings.maxKilobytes) * 1024;
     QByteArray bytes;
     QString note;
-    if (budget > 0 && OutputSettings::takesSizeBudget(settings.format)) {
+    if (searchesQuality()) {
         bool fits = false;
         bytes = highestQualityWithin(budget, settings.quality, encode, fits);
         if (!fits)

@@ -48,6 +48,8 @@ public:
         // Decoded reduced by fast reading: the size the shrinking first operation gives the
         // whole photo, which the image is still to be brought to instead of running it.
         QSize shrinkTo = {};
+        // Encoded on the thread that made it, when no size budget searches a quality.
+        QByteArray encodedPixels = {};
     };
 
     // The outcome of one write; error is empty when the file was written.
@@ -140,8 +142,10 @@ public:
     // Refused: a source photo, a link (nothing is written through one), anything but a
     // regular file, and a file this run did not write unless the options allow replacing it.
     // The metadata goes in as the settings choose; a file that cannot take it is written
-    // without it.
-    WriteResult write(const QImage& image, const QString& path, const PhotoMetadata& metadata = {});
+    // without it. encodedBefore: the image encoded already at the settings' quality (where no
+    // size budget searches one), metadata not yet in.
+    WriteResult write(const QImage& image, const QString& path, const PhotoMetadata& metadata = {},
+                      const QByteArray& encodedBefore = {});
     // The photo with its EXIF orientation applied, in 32-bit ARGB, and its metadata. Only a regular
     // file is read; its size is read from its header first and a photo above pixelBudget is refused
     // undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged and
@@ -175,6 +179,12 @@ private:
     Result writeOut(int index, Photo photo);
     // Every photo's name and target, from the counters.
     void nameAll();
+    // Whether a size budget has the quality searched for each photo.
+    bool searchesQuality() const;
+    // The image as the format takes it (laid on the background where the format has no
+    // transparency) encoded at quality, without metadata; empty when the writer fails. Safe on
+    // any thread.
+    QByteArray encodedPixels(const QImage& image, int quality) const;
     // The subfolder below the destination that source goes into, ending in "/", or empty; error
     // says why a source outside its input folder has none.
     QString subfolderOf(const QString& source, QString& error) const;
