@@ -335,7 +335,8 @@ void BatchEngine::run(const Listener& listener, const QVector<int>& order)
                      // for the file work; the metadata goes in there, where Exiv2 is kept.
                      Photo photo = readAndApply(index, *buffers, described);
                      if (!photo.image.isNull() && !searchesQuality())
-                         photo.encodedPixels = encodedPixels(photo.image, settings.writerQuality());
+                         photo.encodedPixels =
+                             encodedPixels(asFormatTakesIt(photo.image), settings.writerQuality());
                      return photo;
                  })});
         }
@@ -419,10 +420,13 @@ bool BatchEngine::searchesQuality() const
     return settings.maxKilobytes > 0 && OutputSettings::takesSizeBudget(settings.format);
 }
 
-QByteArray BatchEngine::encodedPixels(const QImage& image, int quality) const
+QImage BatchEngine::asFormatTakesIt(const QImage& image) const
 {
-    const QImage written =
-        settings.keepsTransparency() ? image : laidOn(image, settings.background);
+    return settings.keepsTransparency() ? image : laidOn(image, settings.background);
+}
+
+QByteArray BatchEngine::encodedPixels(const QImage& written, int quality) const
+{
     QByteArray encoded;
     QBuffer buffer(&encoded);
     buffer.open(QIODevice::WriteOnly);
@@ -455,9 +459,11 @@ BatchEngine::WriteResult BatchEngine::write(const QImage& image, const QString& 
     if (!file.open(QIODevice::WriteOnly))
         return {false, writeError(file)};
     // Encoded in memory first: the metadata goes into the bytes before any reach the file.
+    // Laid on the background once, however many qualities the budget tries.
+    const QImage written = encodedBefore.isEmpty() ? asFormatTakesIt(image) : QImage();
     const auto encode = [&](int quality) {
         const QByteArray pixels =
-            encodedBefore.isEmpty() ? encodedPixels(image, quality) : encodedBefore;
+            encodedBefore.isEmpty() ? encodedPixels(written, quality) : encodedBefore;
         return pixels.isEmpty() ? QByteArray()
                                 : metadata.embedInto(pixels, image.size(), settings,
                                                      image.colorSpace().iccProfile());

@@ -181,10 +181,12 @@ private:
     void nameAll();
     // Whether a size budget has the quality searched for each photo.
     bool searchesQuality() const;
-    // The image as the format takes it (laid on the background where the format has no
-    // transparency) encoded at quality, without metadata; empty when the writer fails. Safe on
-    // any thread.
-    QByteArray encodedPixels(const QImage& image, int quality) const;
+    // The image as the format takes it: laid on the background where the format has no
+    // transparency.
+    QImage asFormatTakesIt(const QImage& image) const;
+    // An image as the format takes it encoded at quality, without metadata; empty when the
+    // writer fails. Both safe on any thread.
+    QByteArray encodedPixels(const QImage& written, int quality) const;
     // The subfolder below the destination that source goes into, ending in "/", or empty; error
     // says why a source outside its input folder has none.
     QString subfolderOf(const QString& source, QString& error) const;
