@@ -25,7 +25,7 @@ struct ResultThumbnails::Outcome
 {
     int row = 0;
     QString path;
-    QImage workingCopy;
+    WorkingCopy workingCopy;
     QImage thumbnail;
 };
 
@@ -84,21 +84,25 @@ void ResultThumbnails::refresh(bool force)
     const QList<QUrl> photos = model->photos();
     for (int row = 0; row < photos.size(); ++row) {
         const QString path = photos.at(row).toLocalFile();
-        const QImage* cached = workingCopies.object(path);
-        Outcome outcome{row, path, cached ? *cached : QImage(), {}};
+        const WorkingCopy* cached = workingCopies.object(path);
+        Outcome outcome{row, path, cached ? *cached : WorkingCopy(), {}};
         QtConcurrent::run(&pool, [this, outcome, prepared, pixelBudget, run, count = photos.size(),
                                   current = generation]() mutable {
             if (*current != run)
                 return;
-            if (outcome.workingCopy.isNull())
-                outcome.workingCopy =
+            WorkingCopy& copy = outcome.workingCopy;
+            if (copy.image.isNull()) {
+                copy.image =
                     PreviewCopy::reduced(BatchEngine::load(outcome.path, pixelBudget).image);
-            if (!outcome.workingCopy.isNull()) {
+                copy.photo = PhotoMetadata::read(outcome.path).describe(outcome.path);
+            }
+            if (!copy.image.isNull()) {
                 // A watermark naming the photo's details shows them as the run will.
-                const PhotoContext photo =
-                    PhotoMetadata::read(outcome.path).describe(outcome.path, outcome.row, count);
+                PhotoContext photo = copy.photo;
+                photo.number = outcome.row + 1;
+                photo.count = count;
                 const QImage result =
-                    BatchEngine::apply(outcome.workingCopy, prepared, pixelBudget, photo).image;
+                    BatchEngine::apply(copy.image, prepared, pixelBudget, photo).image;
                 outcome.thumbnail = ItemsModel::fitIntoThumbnail(result, ItemsModel::resultSide);
             }
             QMetaObject::invokeMethod(
@@ -114,8 +118,8 @@ void ResultThumbnails::refresh(bool force)
 
 void ResultThumbnails::deliver(const Outcome& outcome)
 {
-    if (!outcome.workingCopy.isNull() && !workingCopies.contains(outcome.path))
-        workingCopies.insert(outcome.path, new QImage(outcome.workingCopy),
-                             costOf(outcome.workingCopy));
+    const WorkingCopy& copy = outcome.workingCopy;
+    if (!copy.image.isNull() && !workingCopies.contains(outcome.path))
+        workingCopies.insert(outcome.path, new WorkingCopy(copy), costOf(copy.image));
     model->setResultThumbnail(outcome.row, outcome.thumbnail);
 }

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "batchoperations.h"
+#include "textmacros.h"
 
 #include <QCache>
 #include <QImage>
@@ -39,6 +40,12 @@ public slots:
     void slotFlowTouched();
 
 private:
+    // A photo reduced as the preview reduces it, and what a watermark may name of it.
+    struct WorkingCopy
+    {
+        QImage image;
+        PhotoContext photo;
+    };
     // One photo's result in the making, from the pool back to this thread.
     struct Outcome;
 
@@ -51,7 +58,7 @@ private:
     bool active = false;
     QTimer settle;
     // The working copies of the photos by path, so that a flow change runs only the flow.
-    QCache<QString, QImage> workingCopies;
+    QCache<QString, WorkingCopy> workingCopies;
     // Raised by every refresh; a photo of an earlier one is dropped.
     std::shared_ptr<std::atomic<int>> generation;
     QThreadPool pool;
