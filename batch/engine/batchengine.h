@@ -146,10 +146,10 @@ public:
     // size budget searches one), metadata not yet in.
     WriteResult write(const QImage& image, const QString& path, const PhotoMetadata& metadata = {},
                       const QByteArray& encodedBefore = {});
-    // The photo with its EXIF orientation applied, in 32-bit ARGB, and its metadata. Only a regular
-    // file is read; its size is read from its header first and a photo above pixelBudget is refused
-    // undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged and
-    // not taken, whatever it decoded. Drawings (SVG, EPS) are not photos. A photo whose reader
+    // The photo with its EXIF orientation applied, in 32-bit ARGB (metadata is read apart). Only a
+    // regular file is read; its size is read from its header first and a photo above pixelBudget is
+    // refused undecoded. A photo its decoder complains about (truncated, corrupt data) is damaged
+    // and not taken, whatever it decoded. Drawings (SVG, EPS) are not photos. A photo whose reader
     // tells sizes but cannot tell this one's is refused undecoded.
     static Photo load(const QString& path, qint64 pixelBudget, const PhotoDecoding& decoding = {});
     // The operations in order through their headless forms, for the photo described. An image
