@@ -10,7 +10,7 @@ packages=(
     build-essential cmake pkg-config
     qtbase5-dev qtbase5-dev-tools libqt5svg5-dev qttools5-dev qttools5-dev-tools
     qttranslations5-l10n qt5-image-formats-plugins libexiv2-dev
-    liblcms2-dev
+    liblcms2-dev libjpeg62-turbo-dev
     fonts-dejavu-core
     xvfb xauth imagemagick
     appstream desktop-file-utils shared-mime-info

@@ -1,10 +1,12 @@
 #include "batchengine.h"
 
 #include "colorprofiles.h"
+#include "jpegrows.h"
 #include "operationcatalogue.h"
 #include "operations.h"
 #include "outputnaming.h"
 #include "photofiles.h"
+#include "rowshrinker.h"
 #include "threadmessages.h"
 
 #include <QBuffer>
@@ -23,6 +25,7 @@
 #include <deque>
 #include <functional>
 #include <numeric>
+#include <optional>
 #include <sys/stat.h>
 #include <sys/types.h>
 
@@ -138,6 +141,46 @@ QImage asWords(QImage image, ImageBuffers* buffers)
 QString tooLarge(const QSize& size)
 {
     return BatchEngine::tr("too large: %1 x %2").arg(size.width()).arg(size.height());
+}
+
+// The JPEG decoded a row at a time and shrunk to target as the rows come, word for word as the
+// whole photo would be shrunk. Nothing when this photo is left to Qt's reader: a JPEG of other
+// colours or of another size than the one told, or no memory for the result.
+std::optional<BatchEngine::Photo> shrunkWhileRead(const QString& path, const QSize& size,
+                                                  const QSize& target, ImageBuffers* buffers)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !OrkGraphX::RowShrinker::shrinks(size, target))
+        return std::nullopt;
+    JpegRows rows(file);
+    {
+        // Qt's reader has said what it had to say of the header already.
+        const ThreadMessages header;
+        if (!rows.start() || rows.size() != size)
+            return std::nullopt;
+    }
+    QImage image = buffers ? buffers->take(target, QImage::Format_ARGB32_Premultiplied)
+                           : QImage(target, QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return std::nullopt;
+    const ThreadMessages decoder;
+    std::vector<QRgb> row(size_t(size.width()));
+    OrkGraphX::RowShrinker shrinker(size, image);
+    bool whole = true;
+    for (int y = 0; whole && y < size.height(); ++y) {
+        whole = rows.readRow(row.data());
+        if (whole)
+            shrinker.addRow(row.data());
+    }
+    whole = whole && rows.finish();
+    if (!decoder.messages().isEmpty())
+        return BatchEngine::Photo{
+            {}, BatchEngine::tr("damaged: %1").arg(decoder.messages().constFirst().trimmed())};
+    if (!whole)
+        return BatchEngine::Photo{{},
+                                  BatchEngine::tr("unreadable: not a photo this program can read")};
+    rows.describe(image);
+    return BatchEngine::Photo{std::move(image), {}, {}, target};
 }
 
 QString leftNoImage(const QString& operation)
@@ -367,8 +410,9 @@ BatchEngine::Photo BatchEngine::readAndApply(int index, ImageBuffers& buffers,
     decoding.toSrgb = settings.convertToSrgb;
     const bool shrinksFirst =
         !operations.isEmpty() && operations.first().name == QLatin1String(RSZOperation::Name);
-    if (options.fastReading && shrinksFirst)
+    if (shrinksFirst)
         decoding.shrinksTo = operations.first().resultSize;
+    decoding.fast = options.fastReading;
     Photo photo = load(sources.at(index), options.pixelBudget, decoding);
     if (photo.image.isNull())
         return photo;
@@ -525,7 +569,15 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget,
         return {{}, tr("unreadable: its size cannot be read")};
     if (size.isValid() && qint64(size.width()) * size.height() > pixelBudget)
         return {{}, tooLarge(size)};
-    const QSize shrinkTo = decoding.shrinksTo && reader.format() == "jpeg"
+    const bool jpeg = reader.format() == "jpeg";
+    const bool storedUpright = reader.transformation() == QImageIOHandler::TransformationNone;
+    if (decoding.shrinksTo && jpeg && storedUpright && !decoding.fast && !decoding.toSrgb) {
+        std::optional<Photo> shrunk =
+            shrunkWhileRead(path, size, decoding.shrinksTo(size), decoding.buffers);
+        if (shrunk)
+            return std::move(*shrunk);
+    }
+    const QSize shrinkTo = decoding.shrinksTo && decoding.fast && jpeg
                                ? shrunkDecoding(reader, size, decoding.shrinksTo)
                                : QSize();
     const QSize decodedSize = shrinkTo.isEmpty() ? size : reader.scaledSize();

@@ -26,10 +26,12 @@ struct PhotoDecoding
 {
     // Memory for the pixels, reused from photo to photo.
     ImageBuffers* buffers = nullptr;
-    // Fast reading: the size an upright photo of the given size is shrunk to first. A JPEG is
-    // then decoded at the smallest of 1/8, 1/4 and 1/2 of its size that is still at least as
-    // large, by its decoder's DCT scaling.
+    // The size an upright photo of the given size is shrunk to first. A JPEG stored upright is
+    // then shrunk exactly, as the whole photo would be, a row at a time as it is decoded.
     std::function<QSize(const QSize&)> shrinksTo = {};
+    // Fast reading: a JPEG is instead decoded at the smallest of 1/8, 1/4 and 1/2 of its size
+    // that is still at least as large as shrinksTo gives, by its decoder's DCT scaling.
+    bool fast = false;
     // The pixels converted from the photo's colour profile to sRGB (ColorProfiles).
     bool toSrgb = false;
 };
@@ -45,8 +47,8 @@ public:
         QImage image;
         QString error;
         PhotoMetadata metadata = {};
-        // Decoded reduced by fast reading: the size the shrinking first operation gives the
-        // whole photo, which the image is still to be brought to instead of running it.
+        // Decoded reduced: the size the shrinking first operation gives the whole photo, which
+        // the image is brought to instead of running it (shrunk while read, it is there already).
         QSize shrinkTo = {};
         // Encoded on the thread that made it, when no size budget searches a quality.
         QByteArray encodedPixels = {};

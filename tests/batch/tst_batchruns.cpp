@@ -4,7 +4,11 @@
 #include "outputsettings.h"
 #include "testutils.h"
 
+#include <QBuffer>
+#include <QColorSpace>
 #include <QDir>
+#include <QImageReader>
+#include <QImageWriter>
 
 #include <cmath>
 
@@ -162,7 +166,73 @@ private slots:
         QVERIFY2(decibels > 30, qPrintable(QString::number(decibels)));
     }
 
+    void shrinkWhileReading_data()
+    {
+        addColumns<QByteArray, QSize>("jpeg", "target");
+        QImage described = photoLike(301, 203, 5);
+        described.setColorSpace(QColorSpace::AdobeRgb);
+        described.setText("Author", "Someone  with  spaces");
+        described.setText("Note", "two\nlines");
+        described.setDotsPerMeterX(11811);
+        described.setDotsPerMeterY(5906);
+        addRow("profile, texts, resolution", encoded(described, false), QSize(150, 101));
+        addRow("grey",
+               encoded(photoLike(97, 64, 1).convertToFormat(QImage::Format_Grayscale8), false),
+               QSize(31, 20));
+        addRow("progressive", encoded(photoLike(120, 90, 2), true), QSize(119, 1));
+    }
+
+    // A JPEG shrunk while it is read is what Qt's reader and Qt's smooth scaling of the whole
+    // photo give: pixels, resolution, texts and colour profile.
+    void shrinkWhileReading()
+    {
+        auto [jpeg, target] = fetch<QByteArray, QSize>("jpeg", "target");
+        const QString path = TestUtils::writeFile(root->filePath("in/photo.jpg"), jpeg);
+        QImageReader reader(path);
+        reader.setAutoTransform(true);
+        QImage expected = reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        expected = expected.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        PhotoDecoding decoding;
+        decoding.shrinksTo = [target = target](const QSize&) { return target; };
+        const BatchEngine::Photo photo = BatchEngine::load(path, 1 << 30, decoding);
+        QCOMPARE(photo.error, QString());
+        QCOMPARE(photo.shrinkTo, target);
+        QImage shrunk = photo.image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        QCOMPARE_IMAGES(shrunk, expected);
+        QCOMPARE(shrunk.dotsPerMeterX(), expected.dotsPerMeterX());
+        QCOMPARE(shrunk.dotsPerMeterY(), expected.dotsPerMeterY());
+        QCOMPARE(shrunk.colorSpace(), expected.colorSpace());
+        for (const QString& key : expected.textKeys())
+            QCOMPARE(shrunk.text(key), expected.text(key));
+        QCOMPARE(shrunk.textKeys(), expected.textKeys());
+    }
+
+    // Cut off halfway, a photo is reported damaged in the decoder's words, whichever way it is
+    // read.
+    void shrinkWhileReadingDamaged()
+    {
+        const QByteArray whole = encoded(photoLike(160, 120, 4), false);
+        const QString path =
+            TestUtils::writeFile(root->filePath("in/cut.jpg"), whole.left(whole.size() / 2));
+        PhotoDecoding decoding;
+        decoding.shrinksTo = [](const QSize&) { return QSize(80, 60); };
+        const QString said = "damaged: Corrupt JPEG data: premature end of data segment";
+        QCOMPARE(BatchEngine::load(path, 1 << 30, decoding).error, said);
+        QCOMPARE(BatchEngine::load(path, 1 << 30).error, said);
+    }
+
 private:
+    static QByteArray encoded(const QImage& image, bool progressive)
+    {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QImageWriter writer(&buffer, "jpeg");
+        writer.setProgressiveScanWrite(progressive);
+        writer.write(image);
+        return bytes;
+    }
+
     // pelodine-batch with the arguments, on the sources or else the photos.
     TestUtils::Outcome run(const QString& arguments, const QStringList& sources = {}) const
     {

@@ -3,6 +3,7 @@
 #include "geometric.h"
 #include "neighbourhood.h"
 #include "point.h"
+#include "rowshrinker.h"
 #include "testutils.h"
 #include "watermark.h"
 
@@ -437,6 +438,45 @@ private slots:
         // To its own size it comes back as it is, format and all.
         QImage same = TestUtils::filledImage(8, 4, 0x80402010);
         QCOMPARE(resizeImage(same, 8, 4, 2, false).format(), QImage::Format_ARGB32);
+    }
+
+    void shrinkRowByRow_data()
+    {
+        addColumns<QSize, QSize>("source", "target");
+        addRow("half", QSize(64, 48), QSize(32, 24));
+        addRow("a third, odd", QSize(301, 97), QSize(100, 32));
+        addRow("one pixel less", QSize(100, 3), QSize(99, 2));
+        addRow("to one pixel", QSize(53, 41), QSize(1, 1));
+        addRow("one row, uneven", QSize(777, 5), QSize(13, 1));
+        addRow("one column, tall", QSize(2, 300), QSize(1, 7));
+        addRow("most of it", QSize(257, 129), QSize(256, 128));
+    }
+
+    // Premultiplied noise with every alpha, fed a row at a time, against Qt's smooth scaling of
+    // the whole image: word for word, each target row written as soon as its rows are in.
+    void shrinkRowByRow()
+    {
+        auto [source, target] = fetch<QSize, QSize>("source", "target");
+        QVERIFY(RowShrinker::shrinks(source, target));
+        std::mt19937 noise(uint32_t(source.width() * 7919 + source.height()));
+        QImage image(source, QImage::Format_ARGB32_Premultiplied);
+        for (int y = 0; y < source.height(); ++y) {
+            auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+            for (int x = 0; x < source.width(); ++x)
+                row[x] = qPremultiply(QRgb(noise()));
+        }
+        QImage shrunk(target, QImage::Format_ARGB32_Premultiplied);
+        shrunk.fill(0);
+        RowShrinker shrinker(source, shrunk);
+        for (int y = 0; y < source.height(); ++y) {
+            QCOMPARE(shrinker.done(), false);
+            shrinker.addRow(reinterpret_cast<const QRgb*>(image.constScanLine(y)));
+        }
+        QVERIFY(shrinker.done());
+        QCOMPARE_IMAGES(shrunk,
+                        image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        QVERIFY(!RowShrinker::shrinks(source, QSize(source.width(), 1)));
+        QVERIFY(!RowShrinker::shrinks(source, QSize(1, source.height() + 1)));
     }
 
     void watermarkPlacement_data()
