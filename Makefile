@@ -49,17 +49,21 @@ test-sanitize: deps
 	if [ -n "$$(ls -A $(SANITIZE_REPORTS))" ]; then cat $(SANITIZE_REPORTS)/*; status=1; fi; \
 	exit $$status
 
-# Runs the flow fuzzer FUZZ_SECONDS long over the seeds in fuzz/corpus/flow; what it finds new
-# goes to $(FUZZ_DIR)/corpus, a crash to $(FUZZ_DIR)/artifacts, and the repo stays as it is.
+# Runs each fuzzer FUZZ_SECONDS long: the flow reader over the seeds in fuzz/corpus/flow, the
+# JPEG read shrunk row by row against the photo read whole over fuzz/corpus/jpeg. What they find
+# new goes to $(FUZZ_DIR)/corpus/<name>, a crash to $(FUZZ_DIR)/artifacts; the repo stays as it is.
 fuzz: deps
 	@CC=clang CXX=clang++ cmake -S . -B $(FUZZ_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 		-DPELODINE_FUZZ=ON -DBUILD_TESTING=OFF >/dev/null
-	@cmake --build $(FUZZ_DIR) -j $(JOBS) --target fuzz_flow
-	@mkdir -p $(FUZZ_DIR)/corpus $(FUZZ_DIR)/artifacts
+	@cmake --build $(FUZZ_DIR) -j $(JOBS) --target fuzz_flow fuzz_jpeg
+	@mkdir -p $(FUZZ_DIR)/corpus/flow $(FUZZ_DIR)/corpus/jpeg $(FUZZ_DIR)/artifacts
 	cd $(FUZZ_DIR) && LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan-suppressions.txt \
 		./fuzz/fuzz_flow -max_total_time=$(FUZZ_SECONDS) \
 		-dict=$(CURDIR)/fuzz/flow.dict -artifact_prefix=artifacts/ $(FUZZ_FLAGS) \
-		corpus $(CURDIR)/fuzz/corpus/flow
+		corpus/flow $(CURDIR)/fuzz/corpus/flow
+	cd $(FUZZ_DIR) && LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan-suppressions.txt \
+		./fuzz/fuzz_jpeg -max_total_time=$(FUZZ_SECONDS) -max_len=65536 \
+		-artifact_prefix=artifacts/ $(FUZZ_FLAGS) corpus/jpeg $(CURDIR)/fuzz/corpus/jpeg
 
 BENCHMARKS = bench_kernels bench_flow bench_preview bench_batch
 

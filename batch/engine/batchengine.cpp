@@ -156,7 +156,7 @@ std::optional<BatchEngine::Photo> shrunkWhileRead(const QString& path, const QSi
     {
         // Qt's reader has said what it had to say of the header already.
         const ThreadMessages header;
-        if (!rows.start() || rows.size() != size)
+        if (!rows.readHeader() || rows.size() != size)
             return std::nullopt;
     }
     QImage image = buffers ? buffers->take(target, QImage::Format_ARGB32_Premultiplied)
@@ -166,7 +166,7 @@ std::optional<BatchEngine::Photo> shrunkWhileRead(const QString& path, const QSi
     const ThreadMessages decoder;
     std::vector<QRgb> row(size_t(size.width()));
     OrkGraphX::RowShrinker shrinker(size, image);
-    bool whole = true;
+    bool whole = rows.start();
     for (int y = 0; whole && y < size.height(); ++y) {
         whole = rows.readRow(row.data());
         if (whole)

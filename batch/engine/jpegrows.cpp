@@ -111,7 +111,7 @@ JpegRows::~JpegRows()
 }
 
 // No object with a destructor lives in a function that libjpeg may leave by its long jump.
-bool JpegRows::start()
+bool JpegRows::readHeader()
 {
     jpeg_decompress_struct& info = decoder->info;
     if (setjmp(decoder->errors.jump))
@@ -130,7 +130,15 @@ bool JpegRows::start()
 #else
     info.out_color_space = JCS_EXT_ARGB;
 #endif
-    jpeg_start_decompress(&info);
+    jpeg_calc_output_dimensions(&info);
+    return true;
+}
+
+bool JpegRows::start()
+{
+    if (setjmp(decoder->errors.jump))
+        return false;
+    jpeg_start_decompress(&decoder->info);
     return true;
 }
 

@@ -20,10 +20,12 @@ public:
     JpegRows(const JpegRows&) = delete;
     JpegRows& operator=(const JpegRows&) = delete;
 
-    // Reads the header and starts decoding; false for a damaged header and for colours other
-    // than RGB and grey, which are left to Qt's reader.
-    bool start();
+    // Reads the header; false for a damaged one and for colours other than RGB and grey, which
+    // are left to Qt's reader.
+    bool readHeader();
     QSize size() const;
+    // Starts decoding, which for a progressive photo reads all of it; false when that fails.
+    bool start();
     // Decodes the next row into size().width() words 0xffRRGGBB; false when the data is broken.
     bool readRow(QRgb* words);
     // Reads what follows the last row, as Qt's reader does; false when that is broken.

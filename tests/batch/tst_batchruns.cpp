@@ -207,13 +207,22 @@ private slots:
         QCOMPARE(shrunk.textKeys(), expected.textKeys());
     }
 
-    // Cut off halfway, a photo is reported damaged in the decoder's words, whichever way it is
-    // read.
+    void shrinkWhileReadingDamaged_data()
+    {
+        addColumns<QByteArray>("jpeg");
+        const QByteArray baseline = encoded(photoLike(160, 120, 4), false);
+        addRow("cut off halfway", baseline.left(baseline.size() / 2));
+        // Decoding a progressive photo starts by reading all of it: the complaint comes then.
+        QByteArray progressive = encoded(photoLike(160, 120, 4), true);
+        progressive.replace(progressive.size() * 7 / 10, 64, QByteArray(64, 0x55));
+        addRow("progressive, scans overwritten", progressive);
+    }
+
+    // A damaged photo is reported in the decoder's words, whichever way it is read.
     void shrinkWhileReadingDamaged()
     {
-        const QByteArray whole = encoded(photoLike(160, 120, 4), false);
-        const QString path =
-            TestUtils::writeFile(root->filePath("in/cut.jpg"), whole.left(whole.size() / 2));
+        auto [jpeg] = fetch<QByteArray>("jpeg");
+        const QString path = TestUtils::writeFile(root->filePath("in/damaged.jpg"), jpeg);
         PhotoDecoding decoding;
         decoding.shrinksTo = [](const QSize&) { return QSize(80, 60); };
         const QString said = "damaged: Corrupt JPEG data: premature end of data segment";
