@@ -636,6 +636,28 @@ private slots:
         QCOMPARE_IMAGES(drawWatermark(image, params), paper);
     }
 
+    // Large, outlined and turned letters come from outlines: drawn again after smaller texts on
+    // the same thread, the same mark comes out the same.
+    void watermarkTextKeepsNoHistory()
+    {
+        for (int variant = 0; variant < 3; ++variant) {
+            WMRParams params = watermark(0, 60, 4);
+            params.Outline = variant == 1;
+            params.Angle = variant == 2 ? 30 : 0;
+            const QImage paper = TestUtils::filledImage(1000, 300, 0xff204060);
+            QImage first = paper;
+            drawWatermark(first, params);
+            WMRParams small = watermark(0, 60, 4);
+            small.Text = QString("Other %1").arg(variant);
+            for (int width = 20; width < 200; width += 7) {
+                QImage other = TestUtils::filledImage(width, 50, 0xff204060);
+                drawWatermark(other, small);
+            }
+            QImage again = paper;
+            QCOMPARE_IMAGES(drawWatermark(again, params), first);
+        }
+    }
+
     // White text gives way to black on a white photo and stays on a black one; black text turns
     // white on black.
     void watermarkAutoColor_data()

@@ -4,8 +4,11 @@
 #include "watermarkchoice.h"
 
 #include <QFontMetrics>
+#include <QGlyphRun>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRawFont>
+#include <QTextLayout>
 #include <QTransform>
 
 #include <cmath>
@@ -44,6 +47,22 @@ int watermarkPixelSize(QFont font, const QString& text, int target)
     while (textWidth(font, size, text) <= target)
         ++size;
     return size;
+}
+
+// Qt's FreeType engines on one thread share a face per font file, and a glyph rendered into the
+// glyph cache (text of up to 64 pixels) leaves its sub-pixel offset set on that face; outlines
+// (larger text, the outlined letters) are then loaded shifted by it. A new engine on the face
+// sets the offset back to none, so that the letters do not depend on what the thread drew before.
+void clearGlyphOffsets(const QFont& font, const QString& text)
+{
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        QRawFont face = run.rawFont();
+        face.setPixelSize(face.pixelSize() + 1);
+    }
 }
 
 // The length "Size" is a percentage of: the width, the long edge or the short edge.
@@ -220,6 +239,7 @@ void drawText(QImage& image, const WMRParams& params)
     font.setUnderline(params.Underlined);
     const int target = int(qint64(sizeBase(image.size(), params.SizeOf)) * params.Size / 100);
     font.setPixelSize(watermarkPixelSize(font, params.Text, target));
+    clearGlyphOffsets(font, params.Text);
     const QFontMetrics metrics(font);
     const int w = metrics.horizontalAdvance(params.Text);
     const int h = metrics.height();
