@@ -102,6 +102,31 @@ void RowShrinker::addRow(const QRgb* row)
     }
 }
 
+#ifdef __SSE2__
+namespace {
+
+// The channels of the two pixels at pixel as 16-bit lanes b0 b1 g0 g1 r0 r1 a0 a1, multiplied by
+// their weights and added in pairs: four channel sums. No product or sum leaves 31 bits.
+inline __m128i sumOfTwo(const QRgb* pixel, const uint32_t* weight)
+{
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i bytes = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(pixel));
+    const __m128i paired =
+        _mm_unpacklo_epi8(_mm_unpacklo_epi8(bytes, _mm_srli_si128(bytes, 4)), zero);
+    return _mm_madd_epi16(paired, _mm_set1_epi32(int(weight[0] | (weight[1] << 16))));
+}
+
+inline __m128i sumOfOne(const QRgb* pixel, const uint32_t* weight)
+{
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i lanes =
+        _mm_unpacklo_epi16(_mm_unpacklo_epi8(_mm_cvtsi32_si128(int(*pixel)), zero), zero);
+    return _mm_madd_epi16(lanes, _mm_set1_epi32(int(*weight)));
+}
+
+} // namespace
+#endif
+
 void RowShrinker::sumAcross(const QRgb* row, Sums* into) const
 {
     const uint32_t* weights = across.weights.data();
@@ -109,22 +134,19 @@ void RowShrinker::sumAcross(const QRgb* row, Sums* into) const
         const QRgb* pixel = row + span.first;
         const uint32_t* weight = weights + span.weightsAt;
 #ifdef __SSE2__
-        // Two pixels a step: their channels paired as 16-bit lanes, each pair multiplied by the
-        // two weights and added in one instruction. No product or sum leaves 31 bits.
-        const __m128i zero = _mm_setzero_si128();
-        __m128i sums = zero;
-        int k = 0;
-        for (; k + 1 < span.count; k += 2) {
-            const __m128i lanes = _mm_unpacklo_epi8(
-                _mm_loadl_epi64(reinterpret_cast<const __m128i*>(pixel + k)), zero);
-            const __m128i paired = _mm_unpacklo_epi16(lanes, _mm_srli_si128(lanes, 8));
-            const __m128i twoWeights = _mm_set1_epi32(int(weight[k] | (weight[k + 1] << 16)));
-            sums = _mm_add_epi32(sums, _mm_madd_epi16(paired, twoWeights));
-        }
-        if (k < span.count) {
-            const __m128i lanes =
-                _mm_unpacklo_epi16(_mm_unpacklo_epi8(_mm_cvtsi32_si128(int(pixel[k])), zero), zero);
-            sums = _mm_add_epi32(sums, _mm_madd_epi16(lanes, _mm_set1_epi32(int(weight[k]))));
+        // Spans of two or three pixels, the most common, go without a loop.
+        __m128i sums;
+        if (span.count == 2) {
+            sums = sumOfTwo(pixel, weight);
+        } else if (span.count == 3) {
+            sums = _mm_add_epi32(sumOfTwo(pixel, weight), sumOfOne(pixel + 2, weight + 2));
+        } else {
+            sums = _mm_setzero_si128();
+            int k = 0;
+            for (; k + 1 < span.count; k += 2)
+                sums = _mm_add_epi32(sums, sumOfTwo(pixel + k, weight + k));
+            if (k < span.count)
+                sums = _mm_add_epi32(sums, sumOfOne(pixel + k, weight + k));
         }
         _mm_storeu_si128(reinterpret_cast<__m128i*>(into->channel), _mm_srli_epi32(sums, 4));
 #else
