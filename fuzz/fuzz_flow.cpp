@@ -1,11 +1,10 @@
 // libFuzzer target: the input read as a flow the way the batch reads one, and every operation
 // it yields run in turn on a small picture, as a batch runs them on a photo.
 #include "flowoperations.h"
+#include "fuzzapplication.h"
 #include "operationcatalogue.h"
 
-#include <QGuiApplication>
 #include <QImage>
-#include <QTemporaryDir>
 
 #include <cstdint>
 #include <cstdio>
@@ -49,18 +48,7 @@ void checkSize(const QString& name, const QSize& announced, const QImage& result
 
 extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** argv)
 {
-    // Fontconfig's cache and anything Qt keeps go to a home of the fuzzer's own, removed at exit.
-    static QTemporaryDir home;
-    for (const char* variable :
-         {"HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
-        qputenv(variable, home.path().toLocal8Bit());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Qt gets only the program name: libFuzzer's flags are not for it.
-    static int qtArgc = 1;
-    static char* qtArgv[] = {(*argv)[0], nullptr};
-    // Never destroyed: at exit Qt's font caches go with their thread storage, before a static
-    // application would, and what they held would look leaked.
-    new QGuiApplication(qtArgc, qtArgv);
+    startFuzzApplication((*argv)[0]);
     return 0;
 }
 

@@ -2,9 +2,9 @@
 // row by row as it is decoded and once decoded whole and shrunk by Qt. Both ways must agree:
 // the same pixels, or both refusing the photo.
 #include "batchengine.h"
+#include "fuzzapplication.h"
 
 #include <QFile>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <cstdint>
@@ -32,15 +32,7 @@ QSize half(const QSize& size)
 
 extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** argv)
 {
-    static QTemporaryDir home;
-    for (const char* variable :
-         {"HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
-        qputenv(variable, home.path().toLocal8Bit());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int qtArgc = 1;
-    static char* qtArgv[] = {(*argv)[0], nullptr};
-    // Never destroyed, as in the flow target: Qt's thread storage goes first at exit.
-    new QGuiApplication(qtArgc, qtArgv);
+    startFuzzApplication((*argv)[0]);
     return 0;
 }
 
