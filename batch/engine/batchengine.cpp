@@ -143,14 +143,17 @@ QString tooLarge(const QSize& size)
     return BatchEngine::tr("too large: %1 x %2").arg(size.width()).arg(size.height());
 }
 
-// The JPEG decoded a row at a time and shrunk to target as the rows come, word for word as the
-// whole photo would be shrunk. Nothing when this photo is left to Qt's reader: a JPEG of other
-// colours or of another size than the one told, or no memory for the result.
+// The JPEG of the stored size decoded a row at a time and shrunk to target as the rows come,
+// word for word as the whole photo, turned upright, would be shrunk. Nothing when this photo is
+// left to Qt's reader: a JPEG of other colours or of another size than the one told, or no
+// memory for the result.
 std::optional<BatchEngine::Photo> shrunkWhileRead(const QString& path, const QSize& size,
+                                                  QImageIOHandler::Transformations turn,
                                                   const QSize& target, ImageBuffers* buffers)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || !OrkGraphX::RowShrinker::shrinks(size, target))
+    if (!file.open(QIODevice::ReadOnly) ||
+        !OrkGraphX::RowShrinker::shrinks(OrkGraphX::RowShrinker::upright(size, turn), target))
         return std::nullopt;
     JpegRows rows(file);
     {
@@ -165,7 +168,7 @@ std::optional<BatchEngine::Photo> shrunkWhileRead(const QString& path, const QSi
         return std::nullopt;
     const ThreadMessages decoder;
     std::vector<QRgb> row(size_t(size.width()));
-    OrkGraphX::RowShrinker shrinker(size, image);
+    OrkGraphX::RowShrinker shrinker(size, turn, image);
     bool whole = rows.start();
     for (int y = 0; whole && y < size.height(); ++y) {
         whole = rows.readRow(row.data());
@@ -570,10 +573,10 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget,
     if (size.isValid() && qint64(size.width()) * size.height() > pixelBudget)
         return {{}, tooLarge(size)};
     const bool jpeg = reader.format() == "jpeg";
-    const bool storedUpright = reader.transformation() == QImageIOHandler::TransformationNone;
-    if (decoding.shrinksTo && jpeg && storedUpright && !decoding.fast && !decoding.toSrgb) {
-        std::optional<Photo> shrunk =
-            shrunkWhileRead(path, size, decoding.shrinksTo(size), decoding.buffers);
+    if (decoding.shrinksTo && jpeg && !decoding.fast && !decoding.toSrgb) {
+        const QImageIOHandler::Transformations turn = reader.transformation();
+        const QSize target = decoding.shrinksTo(OrkGraphX::RowShrinker::upright(size, turn));
+        std::optional<Photo> shrunk = shrunkWhileRead(path, size, turn, target, decoding.buffers);
         if (shrunk)
             return std::move(*shrunk);
     }

@@ -26,8 +26,8 @@ struct PhotoDecoding
 {
     // Memory for the pixels, reused from photo to photo.
     ImageBuffers* buffers = nullptr;
-    // The size an upright photo of the given size is shrunk to first. A JPEG stored upright is
-    // then shrunk exactly, as the whole photo would be, a row at a time as it is decoded.
+    // The size an upright photo of the given size is shrunk to first. A JPEG is then shrunk
+    // exactly, as the whole photo turned upright would be, a row at a time as it is decoded.
     std::function<QSize(const QSize&)> shrinksTo = {};
     // Fast reading: a JPEG is instead decoded at the smallest of 1/8, 1/4 and 1/2 of its size
     // that is still at least as large as shrinksTo gives, by its decoder's DCT scaling.

@@ -180,6 +180,10 @@ private slots:
                encoded(photoLike(97, 64, 1).convertToFormat(QImage::Format_Grayscale8), false),
                QSize(31, 20));
         addRow("progressive", encoded(photoLike(120, 90, 2), true), QSize(119, 1));
+        addRow("turned a quarter", TestUtils::jpegWithOrientation(photoLike(80, 60, 3), 6),
+               QSize(20, 41));
+        addRow("mirrored", TestUtils::jpegWithOrientation(photoLike(81, 61, 6), 2),
+               QSize(27, 30));
     }
 
     // A JPEG shrunk while it is read is what Qt's reader and Qt's smooth scaling of the whole

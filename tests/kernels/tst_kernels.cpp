@@ -442,41 +442,57 @@ private slots:
 
     void shrinkRowByRow_data()
     {
-        addColumns<QSize, QSize>("source", "target");
-        addRow("half", QSize(64, 48), QSize(32, 24));
-        addRow("a third, odd", QSize(301, 97), QSize(100, 32));
-        addRow("one pixel less", QSize(100, 3), QSize(99, 2));
-        addRow("to one pixel", QSize(53, 41), QSize(1, 1));
-        addRow("one row, uneven", QSize(777, 5), QSize(13, 1));
-        addRow("one column, tall", QSize(2, 300), QSize(1, 7));
-        addRow("most of it", QSize(257, 129), QSize(256, 128));
+        // The stored size, how it is turned upright, and the size the upright image shrinks to.
+        addColumns<QSize, int, QSize>("stored", "turn", "target");
+        using Turn = QImageIOHandler::Transformation;
+        addRow("half", QSize(64, 48), int(Turn::TransformationNone), QSize(32, 24));
+        addRow("a third, odd, turned a quarter", QSize(301, 97), int(Turn::TransformationRotate90),
+               QSize(32, 100));
+        addRow("one pixel less, mirrored", QSize(100, 3), int(Turn::TransformationMirror),
+               QSize(99, 2));
+        addRow("to one pixel, turned three quarters", QSize(53, 41),
+               int(Turn::TransformationRotate270), QSize(1, 1));
+        addRow("one row, uneven, flipped", QSize(777, 5), int(Turn::TransformationFlip),
+               QSize(13, 1));
+        addRow("one column, tall, mirrored and turned", QSize(300, 2),
+               int(Turn::TransformationMirrorAndRotate90), QSize(1, 7));
+        addRow("most of it, flipped and turned", QSize(129, 257),
+               int(Turn::TransformationFlipAndRotate90), QSize(256, 128));
+        addRow("half turned", QSize(90, 70), int(Turn::TransformationRotate180), QSize(45, 35));
     }
 
-    // Premultiplied noise with every alpha, fed a row at a time, against Qt's smooth scaling of
-    // the whole image: word for word, each target row written as soon as its rows are in.
+    // Premultiplied noise with every alpha, fed a stored row at a time, against Qt's smooth
+    // scaling of the whole image turned upright by Qt (mirrored, flipped, then a quarter
+    // clockwise): word for word, each target row written as soon as its rows are in.
     void shrinkRowByRow()
     {
-        auto [source, target] = fetch<QSize, QSize>("source", "target");
-        QVERIFY(RowShrinker::shrinks(source, target));
-        std::mt19937 noise(uint32_t(source.width() * 7919 + source.height()));
-        QImage image(source, QImage::Format_ARGB32_Premultiplied);
-        for (int y = 0; y < source.height(); ++y) {
+        auto [stored, turnNumber, target] = fetch<QSize, int, QSize>("stored", "turn", "target");
+        const RowShrinker::Turn turn(turnNumber);
+        std::mt19937 noise(uint32_t(stored.width() * 7919 + stored.height()));
+        QImage image(stored, QImage::Format_ARGB32_Premultiplied);
+        for (int y = 0; y < stored.height(); ++y) {
             auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-            for (int x = 0; x < source.width(); ++x)
+            for (int x = 0; x < stored.width(); ++x)
                 row[x] = qPremultiply(QRgb(noise()));
         }
+        QImage upright = image.mirrored(turn & QImageIOHandler::TransformationMirror,
+                                        turn & QImageIOHandler::TransformationFlip);
+        if (turn & QImageIOHandler::TransformationRotate90)
+            upright = upright.transformed(QTransform().rotate(90));
+        QCOMPARE(RowShrinker::upright(stored, turn), upright.size());
+        QVERIFY(RowShrinker::shrinks(upright.size(), target));
         QImage shrunk(target, QImage::Format_ARGB32_Premultiplied);
         shrunk.fill(0);
-        RowShrinker shrinker(source, shrunk);
-        for (int y = 0; y < source.height(); ++y) {
+        RowShrinker shrinker(stored, turn, shrunk);
+        for (int y = 0; y < stored.height(); ++y) {
             QCOMPARE(shrinker.done(), false);
             shrinker.addRow(reinterpret_cast<const QRgb*>(image.constScanLine(y)));
         }
         QVERIFY(shrinker.done());
         QCOMPARE_IMAGES(shrunk,
-                        image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        QVERIFY(!RowShrinker::shrinks(source, QSize(source.width(), 1)));
-        QVERIFY(!RowShrinker::shrinks(source, QSize(1, source.height() + 1)));
+                        upright.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        QVERIFY(!RowShrinker::shrinks(stored, QSize(stored.width(), 1)));
+        QVERIFY(!RowShrinker::shrinks(stored, QSize(1, stored.height() + 1)));
     }
 
     void watermarkPlacement_data()

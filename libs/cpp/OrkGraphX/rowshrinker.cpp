@@ -43,11 +43,17 @@ RowShrinker::Axis::Axis(int source, int target)
         span.count = std::min(int(weights.size()) - span.weightsAt, source - span.first);
         spans.push_back(span);
     }
+    firstSpanAt.assign(size_t(source), target);
+    int reached = 0;
+    for (int i = 0; i < target; ++i) {
+        for (; reached <= spans[size_t(i)].last(); ++reached)
+            firstSpanAt[size_t(reached)] = i;
+    }
 }
 
-int RowShrinker::Axis::mostSpansAtOnePixel(int source) const
+int RowShrinker::Axis::mostSpansAtOnePixel() const
 {
-    std::vector<int> starting(size_t(source) + 1, 0);
+    std::vector<int> starting(firstSpanAt.size() + 1, 0);
     for (const Span& span : spans) {
         ++starting[size_t(span.first)];
         --starting[size_t(span.first + span.count)];
@@ -59,13 +65,28 @@ int RowShrinker::Axis::mostSpansAtOnePixel(int source) const
     return most;
 }
 
-RowShrinker::RowShrinker(const QSize& source, QImage& into)
-    : across(source.width(), into.width())
-    , down(source.height(), into.height())
+QSize RowShrinker::upright(const QSize& stored, Turn turn)
+{
+    return turn & QImageIOHandler::TransformationRotate90 ? stored.transposed() : stored;
+}
+
+// Turned upright, pixel (x, y) is stored at (w-1-x if mirrored, h-1-y if flipped); a quarter
+// turn clockwise then takes upright (x, y) from there at (y, h-1-x).
+RowShrinker::RowShrinker(const QSize& stored, Turn turn, QImage& into)
+    : quarterTurn(turn & QImageIOHandler::TransformationRotate90)
+    , rowsBackwards(bool(turn & QImageIOHandler::TransformationFlip) != quarterTurn)
+    , rowBackwards(turn & QImageIOHandler::TransformationMirror)
+    , storedRows(stored.height())
+    , across(upright(stored, turn).width(), into.width())
+    , down(upright(stored, turn).height(), into.height())
+    , stepped(quarterTurn ? across : down)
     , into(into)
-    , openRows(down.mostSpansAtOnePixel(source.height()))
-    , rowSums(size_t(into.width()))
-    , targetSums(size_t(openRows) * size_t(into.width()) * 4)
+    , targets(int(stepped.spans.size()))
+    , openTargets(stepped.mostSpansAtOnePixel())
+    , turnedRow(rowBackwards ? size_t(stored.width()) : 0)
+    , rowValues(size_t(quarterTurn ? stored.width() : into.width()) * 4)
+    , openSums(size_t(openTargets) * rowValues.size())
+    , columnSums(quarterTurn ? rowValues.size() : 0)
 {
 }
 
@@ -73,32 +94,66 @@ void RowShrinker::addRow(const QRgb* row)
 {
     if (done())
         return;
-    sumAcross(row, rowSums.data());
-    const int source = nextSource++;
-    const size_t channels = size_t(into.width()) * 4;
-    const uint32_t* sums = rowSums.data()->channel;
-    // Every target row whose span holds this row takes it with its weight; they are the open
-    // ones, at most openRows, each with its sums in the slot of its number.
-    for (int target = nextTarget; target < into.height(); ++target) {
-        const Span& span = down.spans[size_t(target)];
-        if (span.first > source)
-            break;
-        const uint32_t weight = down.weights[size_t(span.weightsAt + source - span.first)];
-        uint32_t* slot = targetSums.data() + size_t(target % openRows) * channels;
-        if (source == span.first) {
-            for (size_t i = 0; i < channels; ++i)
-                slot[i] = sums[i] * weight;
-        } else {
-            for (size_t i = 0; i < channels; ++i)
-                slot[i] += sums[i] * weight;
-        }
+    if (rowBackwards) {
+        std::reverse_copy(row, row + turnedRow.size(), turnedRow.begin());
+        row = turnedRow.data();
     }
-    while (!done()) {
-        const Span& span = down.spans[size_t(nextTarget)];
-        if (span.first + span.count > nextSource)
-            break;
-        writeTargetRow();
-        ++nextTarget;
+    if (quarterTurn) {
+        for (size_t x = 0; x < rowValues.size() / 4; ++x) {
+            for (int c = 0; c < 4; ++c)
+                rowValues[x * 4 + size_t(c)] = (row[x] >> (8 * c)) & 0xff;
+        }
+    } else {
+        sumAcross(row, rowValues.data());
+    }
+    const int stored = nextRow++;
+    const int at = rowsBackwards ? storedRows - 1 - stored : stored;
+    const size_t length = rowValues.size();
+    // The targets that take this row are the ones under way, numbered one after the other.
+    for (int target = stepped.firstSpanAt[size_t(at)];
+         target < targets && stepped.spans[size_t(target)].first <= at; ++target) {
+        const Span& span = stepped.spans[size_t(target)];
+        const uint32_t weight = stepped.weights[size_t(span.weightsAt + at - span.first)];
+        uint32_t* sums = openSums.data() + size_t(target % openTargets) * length;
+        if (at == (rowsBackwards ? span.last() : span.first)) {
+            for (size_t i = 0; i < length; ++i)
+                sums[i] = rowValues[i] * weight;
+        } else {
+            for (size_t i = 0; i < length; ++i)
+                sums[i] += rowValues[i] * weight;
+        }
+        if (at == (rowsBackwards ? span.first : span.last()))
+            complete(target, sums);
+    }
+}
+
+// A row: the sums over the rows, shifted by 24. Turned a quarter, a column: the sums over the
+// stored rows are the sums across, shifted by 4, which are then summed down as above.
+void RowShrinker::complete(int target, const uint32_t* sums)
+{
+    ++completed;
+    const auto pack = [](const uint32_t* channel) {
+        return (channel[0] >> 24) | ((channel[1] >> 24) << 8) | ((channel[2] >> 24) << 16) |
+               ((channel[3] >> 24) << 24);
+    };
+    if (!quarterTurn) {
+        auto* out = reinterpret_cast<QRgb*>(into.scanLine(target));
+        for (size_t i = 0; i < rowValues.size(); i += 4)
+            *out++ = pack(sums + i);
+        return;
+    }
+    for (size_t i = 0; i < columnSums.size(); ++i)
+        columnSums[i] = sums[i] >> 4;
+    for (int y = 0; y < into.height(); ++y) {
+        const Span& span = down.spans[size_t(y)];
+        const uint32_t* weight = down.weights.data() + span.weightsAt;
+        uint32_t pixel[4] = {0, 0, 0, 0};
+        for (int k = 0; k < span.count; ++k) {
+            const uint32_t* channel = columnSums.data() + size_t(span.first + k) * 4;
+            for (int c = 0; c < 4; ++c)
+                pixel[c] += channel[c] * weight[k];
+        }
+        reinterpret_cast<QRgb*>(into.scanLine(y))[target] = pack(pixel);
     }
 }
 
@@ -127,7 +182,7 @@ inline __m128i sumOfOne(const QRgb* pixel, const uint32_t* weight)
 } // namespace
 #endif
 
-void RowShrinker::sumAcross(const QRgb* row, Sums* into) const
+void RowShrinker::sumAcross(const QRgb* row, uint32_t* sums) const
 {
     const uint32_t* weights = across.weights.data();
     for (const Span& span : across.spans) {
@@ -135,41 +190,31 @@ void RowShrinker::sumAcross(const QRgb* row, Sums* into) const
         const uint32_t* weight = weights + span.weightsAt;
 #ifdef __SSE2__
         // Spans of two or three pixels, the most common, go without a loop.
-        __m128i sums;
+        __m128i spanSums;
         if (span.count == 2) {
-            sums = sumOfTwo(pixel, weight);
+            spanSums = sumOfTwo(pixel, weight);
         } else if (span.count == 3) {
-            sums = _mm_add_epi32(sumOfTwo(pixel, weight), sumOfOne(pixel + 2, weight + 2));
+            spanSums = _mm_add_epi32(sumOfTwo(pixel, weight), sumOfOne(pixel + 2, weight + 2));
         } else {
-            sums = _mm_setzero_si128();
+            spanSums = _mm_setzero_si128();
             int k = 0;
             for (; k + 1 < span.count; k += 2)
-                sums = _mm_add_epi32(sums, sumOfTwo(pixel + k, weight + k));
+                spanSums = _mm_add_epi32(spanSums, sumOfTwo(pixel + k, weight + k));
             if (k < span.count)
-                sums = _mm_add_epi32(sums, sumOfOne(pixel + k, weight + k));
+                spanSums = _mm_add_epi32(spanSums, sumOfOne(pixel + k, weight + k));
         }
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(into->channel), _mm_srli_epi32(sums, 4));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(sums), _mm_srli_epi32(spanSums, 4));
 #else
-        uint32_t sums[4] = {0, 0, 0, 0};
+        uint32_t spanSums[4] = {0, 0, 0, 0};
         for (int k = 0; k < span.count; ++k) {
             for (int c = 0; c < 4; ++c)
-                sums[c] += ((pixel[k] >> (8 * c)) & 0xff) * weight[k];
+                spanSums[c] += ((pixel[k] >> (8 * c)) & 0xff) * weight[k];
         }
         for (int c = 0; c < 4; ++c)
-            into->channel[c] = sums[c] >> 4;
+            sums[c] = spanSums[c] >> 4;
 #endif
-        ++into;
+        sums += 4;
     }
-}
-
-void RowShrinker::writeTargetRow()
-{
-    const size_t channels = size_t(into.width()) * 4;
-    const uint32_t* sums = targetSums.data() + size_t(nextTarget % openRows) * channels;
-    auto* out = reinterpret_cast<QRgb*>(into.scanLine(nextTarget));
-    for (size_t i = 0; i < channels; i += 4, ++out)
-        *out = (sums[i] >> 24) | ((sums[i + 1] >> 24) << 8) | ((sums[i + 2] >> 24) << 16) |
-               ((sums[i + 3] >> 24) << 24);
 }
 
 } // namespace OrkGraphX
