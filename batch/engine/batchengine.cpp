@@ -143,37 +143,54 @@ QString tooLarge(const QSize& size)
     return BatchEngine::tr("too large: %1 x %2").arg(size.width()).arg(size.height());
 }
 
-// The JPEG of the stored size decoded a row at a time and shrunk to target as the rows come,
-// word for word as the whole photo, turned upright, would be shrunk. Nothing when this photo is
-// left to Qt's reader: a JPEG of other colours or of another size than the one told, or no
-// memory for the result.
-std::optional<BatchEngine::Photo> shrunkWhileRead(const QString& path, const QSize& size,
-                                                  QImageIOHandler::Transformations turn,
-                                                  const QSize& target, ImageBuffers* buffers)
+// How a photo is stored: its size, and how it is turned upright.
+struct Stored
 {
+    QSize size;
+    QImageIOHandler::Transformations turn;
+};
+
+// The JPEG decoded a row at a time and shrunk to target as the rows come, word for word as the
+// whole photo, turned upright (and converted to sRGB when asked), would be shrunk. Nothing when
+// this photo is left to Qt's reader: a JPEG of other colours or of another size than the one
+// told, or no memory for the result.
+std::optional<BatchEngine::Photo> shrunkWhileRead(const QString& path, const Stored& stored,
+                                                  const QSize& target,
+                                                  const PhotoDecoding& decoding)
+{
+    using OrkGraphX::RowShrinker;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) ||
-        !OrkGraphX::RowShrinker::shrinks(OrkGraphX::RowShrinker::upright(size, turn), target))
+        !RowShrinker::shrinks(RowShrinker::upright(stored.size, stored.turn), target))
         return std::nullopt;
     JpegRows rows(file);
     {
         // Qt's reader has said what it had to say of the header already.
         const ThreadMessages header;
-        if (!rows.readHeader() || rows.size() != size)
+        if (!rows.readHeader() || rows.size() != stored.size)
             return std::nullopt;
     }
-    QImage image = buffers ? buffers->take(target, QImage::Format_ARGB32_Premultiplied)
-                           : QImage(target, QImage::Format_ARGB32_Premultiplied);
+    QImage image = decoding.buffers
+                       ? decoding.buffers->take(target, QImage::Format_ARGB32_Premultiplied)
+                       : QImage(target, QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
         return std::nullopt;
+    rows.describe(image);
+    const ColorProfiles::SrgbConversion conversion(decoding.toSrgb ? image.colorSpace().iccProfile()
+                                                                   : QByteArray());
+    if (decoding.toSrgb)
+        image.setColorSpace(QColorSpace::SRgb);
     const ThreadMessages decoder;
-    std::vector<QRgb> row(size_t(size.width()));
-    OrkGraphX::RowShrinker shrinker(size, turn, image);
+    std::vector<QRgb> row(size_t(stored.size.width()));
+    RowShrinker shrinker(stored.size, stored.turn, image);
     bool whole = rows.start();
-    for (int y = 0; whole && y < size.height(); ++y) {
+    for (int y = 0; whole && y < stored.size.height(); ++y) {
         whole = rows.readRow(row.data());
-        if (whole)
-            shrinker.addRow(row.data());
+        if (!whole)
+            break;
+        if (conversion.converts())
+            conversion.convertRow(row.data(), stored.size.width());
+        shrinker.addRow(row.data());
     }
     whole = whole && rows.finish();
     if (!decoder.messages().isEmpty())
@@ -182,7 +199,6 @@ std::optional<BatchEngine::Photo> shrunkWhileRead(const QString& path, const QSi
     if (!whole)
         return BatchEngine::Photo{{},
                                   BatchEngine::tr("unreadable: not a photo this program can read")};
-    rows.describe(image);
     return BatchEngine::Photo{std::move(image), {}, {}, target};
 }
 
@@ -573,10 +589,10 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget,
     if (size.isValid() && qint64(size.width()) * size.height() > pixelBudget)
         return {{}, tooLarge(size)};
     const bool jpeg = reader.format() == "jpeg";
-    if (decoding.shrinksTo && jpeg && !decoding.fast && !decoding.toSrgb) {
+    if (decoding.shrinksTo && jpeg && !decoding.fast) {
         const QImageIOHandler::Transformations turn = reader.transformation();
         const QSize target = decoding.shrinksTo(OrkGraphX::RowShrinker::upright(size, turn));
-        std::optional<Photo> shrunk = shrunkWhileRead(path, size, turn, target, decoding.buffers);
+        std::optional<Photo> shrunk = shrunkWhileRead(path, {size, turn}, target, decoding);
         if (shrunk)
             return std::move(*shrunk);
     }

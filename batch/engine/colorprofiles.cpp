@@ -16,12 +16,7 @@ struct ProfileCloser
 {
     void operator()(void* profile) const { cmsCloseProfile(profile); }
 };
-struct TransformDeleter
-{
-    void operator()(void* transform) const { cmsDeleteTransform(transform); }
-};
 using Profile = std::unique_ptr<void, ProfileCloser>;
-using Transform = std::unique_ptr<void, TransformDeleter>;
 
 // The byte order of a 32-bit ARGB word in memory.
 #if Q_BYTE_ORDER == Q_LITTLE_ENDIAN
@@ -38,19 +33,33 @@ QImage taggedSrgb(QImage image)
 
 } // namespace
 
-QImage toSrgb(const QImage& image, const QByteArray& iccProfile)
+SrgbConversion::SrgbConversion(const QByteArray& iccProfile)
 {
     if (iccProfile.isEmpty() || QColorSpace::fromIccProfile(iccProfile) == QColorSpace::SRgb)
-        return taggedSrgb(image);
+        return;
     const Profile source(cmsOpenProfileFromMem(iccProfile.constData(), iccProfile.size()));
     if (!source || cmsGetColorSpace(source.get()) != cmsSigRgbData)
-        return taggedSrgb(image);
+        return;
     const Profile srgb(cmsCreate_sRGBProfile());
     // Perceptual where the profile has tables for it; a matrix profile falls back to the
     // colorimetric mapping, which clips what sRGB cannot show.
-    const Transform transform(cmsCreateTransform(source.get(), pixelType, srgb.get(), pixelType,
-                                                 INTENT_PERCEPTUAL, cmsFLAGS_COPY_ALPHA));
-    if (!transform)
+    transform.reset(cmsCreateTransform(source.get(), pixelType, srgb.get(), pixelType,
+                                       INTENT_PERCEPTUAL, cmsFLAGS_COPY_ALPHA),
+                    [](void* made) {
+                        if (made)
+                            cmsDeleteTransform(made);
+                    });
+}
+
+void SrgbConversion::convertRow(QRgb* words, int width) const
+{
+    cmsDoTransform(transform.get(), words, words, cmsUInt32Number(width));
+}
+
+QImage toSrgb(const QImage& image, const QByteArray& iccProfile)
+{
+    const SrgbConversion conversion(iccProfile);
+    if (!conversion.converts())
         return taggedSrgb(image);
     QImage converted = image.convertToFormat(QImage::Format_ARGB32);
     // Detached once here, so that no band detaches it again.
@@ -64,10 +73,8 @@ QImage toSrgb(const QImage& image, const QByteArray& iccProfile)
     for (int top = 0; top < height; top += bandHeight)
         bandTops << top;
     QtConcurrent::blockingMap(bandTops, [&](int top) {
-        for (int y = top; y < qMin(top + bandHeight, height); ++y) {
-            uchar* row = pixels + y * rowBytes;
-            cmsDoTransform(transform.get(), row, row, cmsUInt32Number(width));
-        }
+        for (int y = top; y < qMin(top + bandHeight, height); ++y)
+            conversion.convertRow(reinterpret_cast<QRgb*>(pixels + y * rowBytes), width);
     });
     return taggedSrgb(std::move(converted));
 }

@@ -182,8 +182,27 @@ private slots:
         addRow("progressive", encoded(photoLike(120, 90, 2), true), QSize(119, 1));
         addRow("turned a quarter", TestUtils::jpegWithOrientation(photoLike(80, 60, 3), 6),
                QSize(20, 41));
-        addRow("mirrored", TestUtils::jpegWithOrientation(photoLike(81, 61, 6), 2),
-               QSize(27, 30));
+        addRow("mirrored", TestUtils::jpegWithOrientation(photoLike(81, 61, 6), 2), QSize(27, 30));
+    }
+
+    // Converted to sRGB row by row, a photo shrunk while read is the one converted whole, then
+    // shrunk, and says sRGB.
+    void shrinkWhileReadingInSrgb()
+    {
+        QImage adobe = photoLike(160, 90, 7);
+        adobe.setColorSpace(QColorSpace::AdobeRgb);
+        const QString path =
+            TestUtils::writeFile(root->filePath("in/adobe.jpg"), encoded(adobe, false));
+        PhotoDecoding decoding;
+        decoding.toSrgb = true;
+        const QImage whole = BatchEngine::load(path, 1 << 30, decoding).image;
+        QVERIFY(whole.pixel(5, 5) != QImage(path).pixel(5, 5));
+        decoding.shrinksTo = [](const QSize&) { return QSize(53, 30); };
+        const QImage shrunk = BatchEngine::load(path, 1 << 30, decoding).image;
+        QCOMPARE_IMAGES(shrunk,
+                        whole.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                            .scaled(53, 30, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        QCOMPARE(shrunk.colorSpace(), QColorSpace(QColorSpace::SRgb));
     }
 
     // A JPEG shrunk while it is read is what Qt's reader and Qt's smooth scaling of the whole
