@@ -1,7 +1,6 @@
 // libFuzzer target: the input read as a flow the way the batch reads one, and every operation
 // it yields run in turn on a small picture, as a batch runs them on a photo.
 #include "flowoperations.h"
-#include "fuzzapplication.h"
 #include "operationcatalogue.h"
 
 #include <QImage>
@@ -45,12 +44,6 @@ void checkSize(const QString& name, const QSize& announced, const QImage& result
 }
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** argv)
-{
-    startFuzzApplication((*argv)[0]);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

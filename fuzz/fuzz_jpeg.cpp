@@ -2,7 +2,6 @@
 // row by row as it is decoded and once decoded whole and shrunk by Qt. Both ways must agree:
 // the same pixels, or both refusing the photo.
 #include "batchengine.h"
-#include "fuzzapplication.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -29,12 +28,6 @@ QSize half(const QSize& size)
 }
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** argv)
-{
-    startFuzzApplication((*argv)[0]);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
