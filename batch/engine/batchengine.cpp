@@ -1,6 +1,7 @@
 #include "batchengine.h"
 
 #include "colorprofiles.h"
+#include "imageproperties.h"
 #include "jpegrows.h"
 #include "operationcatalogue.h"
 #include "operations.h"
@@ -102,14 +103,7 @@ QImage greyToWords(const QImage& grey, ImageBuffers& buffers)
         auto* to = reinterpret_cast<QRgb*>(words.scanLine(y));
         std::transform(from, from + grey.width(), to, [](uchar g) { return qRgb(g, g, g); });
     }
-    words.setDotsPerMeterX(grey.dotsPerMeterX());
-    words.setDotsPerMeterY(grey.dotsPerMeterY());
-    words.setOffset(grey.offset());
-    words.setDevicePixelRatio(grey.devicePixelRatio());
-    words.setColorSpace(grey.colorSpace());
-    const QStringList keys = grey.textKeys();
-    for (const QString& key : keys)
-        words.setText(key, grey.text(key));
+    OrkGraphX::copyProperties(grey, words);
     return words;
 }
 

@@ -1,6 +1,8 @@
 // Helpers shared by the kernel sources; not part of the library's interface.
 #pragma once
 
+#include "imageproperties.h"
+
 #include <QColorSpace>
 #include <QImage>
 
@@ -69,14 +71,7 @@ inline QImage blankCopy(const QImage& source)
     QImage result = newImage(source.width(), source.height(), source.format());
     if (result.isNull())
         return result;
-    result.setDotsPerMeterX(source.dotsPerMeterX());
-    result.setDotsPerMeterY(source.dotsPerMeterY());
-    result.setOffset(source.offset());
-    result.setDevicePixelRatio(source.devicePixelRatio());
-    result.setColorSpace(source.colorSpace());
-    const QStringList keys = source.textKeys();
-    for (const QString& key : keys)
-        result.setText(key, source.text(key));
+    copyProperties(source, result);
     return result;
 }
 
