@@ -137,6 +137,15 @@ QString tooLarge(const QSize& size)
     return BatchEngine::tr("too large: %1 x %2").arg(size.width()).arg(size.height());
 }
 
+// Why decoding failed, in the decoder's words when it said any; empty when a photo came out
+// and nothing was said.
+QString decodingError(const ThreadMessages& decoder, bool decoded)
+{
+    if (!decoder.messages().isEmpty())
+        return BatchEngine::tr("damaged: %1").arg(decoder.messages().constFirst().trimmed());
+    return decoded ? QString() : BatchEngine::tr("unreadable: not a photo this program can read");
+}
+
 // How a photo is stored: its size, and how it is turned upright.
 struct Stored
 {
@@ -187,12 +196,9 @@ std::optional<BatchEngine::Photo> shrunkWhileRead(const QString& path, const Sto
         shrinker.addRow(row.data());
     }
     whole = whole && rows.finish();
-    if (!decoder.messages().isEmpty())
-        return BatchEngine::Photo{
-            {}, BatchEngine::tr("damaged: %1").arg(decoder.messages().constFirst().trimmed())};
-    if (!whole)
-        return BatchEngine::Photo{{},
-                                  BatchEngine::tr("unreadable: not a photo this program can read")};
+    const QString error = decodingError(decoder, whole);
+    if (!error.isEmpty())
+        return BatchEngine::Photo{{}, error};
     return BatchEngine::Photo{std::move(image), {}, {}, target};
 }
 
@@ -600,10 +606,9 @@ BatchEngine::Photo BatchEngine::load(const QString& path, qint64 pixelBudget,
     const ThreadMessages decoder;
     if (!reader.read(&image))
         image = QImage();
-    if (!decoder.messages().isEmpty())
-        return {{}, tr("damaged: %1").arg(decoder.messages().constFirst().trimmed())};
-    if (image.isNull())
-        return {{}, tr("unreadable: not a photo this program can read")};
+    const QString error = decodingError(decoder, !image.isNull());
+    if (!error.isEmpty())
+        return {{}, error};
     if (qint64(image.width()) * image.height() > pixelBudget)
         return {{}, tooLarge(image.size())};
     image = asWords(std::move(image), decoding.buffers);
